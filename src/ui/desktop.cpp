@@ -1,0 +1,88 @@
+#include "ui/desktop.h"
+
+#include "base/interruptor.h"
+#include "ui/outlets.h"
+
+namespace velk {
+
+namespace {
+
+/// Something that one thread waits for. It also ends when nobody is left who could bring it about:
+/// the gate has closed and the queue has dropped the closure that held the other end.
+class Awaited {
+  public:
+    class Promise {
+      public:
+        explicit Promise(std::shared_ptr<Awaited> awaited) : awaited_(std::move(awaited)) {}
+        ~Promise() { keep(); }
+        Promise(const Promise&) = delete;
+        Promise& operator=(const Promise&) = delete;
+        void keep() { awaited_->come(); }
+
+      private:
+        std::shared_ptr<Awaited> awaited_;
+    };
+
+    void wait() {
+        std::unique_lock lock(mutex_);
+        wake_.wait(lock, [this] { return has_come_; });
+    }
+
+  private:
+    void come() {
+        const std::lock_guard lock(mutex_);
+        has_come_ = true;
+        wake_.notify_all();
+    }
+
+    std::mutex mutex_;
+    std::condition_variable wake_;
+    bool has_come_ = false;
+};
+
+}  // namespace
+
+Desktop::Desktop() : queue_([this] { wake(); }) {
+    this_is_the_ui_thread();
+}
+
+void Desktop::perform(Closure closure) {
+    if (on_ui_thread())
+        closure();
+    else
+        post(std::move(closure));
+}
+
+void Desktop::run_and_wait(Closure closure) {
+    if (on_ui_thread()) {
+        closure();
+        return;
+    }
+    const auto done = std::make_shared<Awaited>();
+    // The closure refers to the waiting caller's locals: it is either run while the caller waits
+    // or dropped, which lets the caller go.
+    post([closure = std::move(closure), promise = std::make_shared<Awaited::Promise>(done)] {
+        closure();
+        promise->keep();
+    });
+    done->wait();
+}
+
+bool Desktop::sleep(double seconds) {
+    return Interruptor::current().sleep_for(std::chrono::duration<double>(seconds));
+}
+
+int Desktop::run_alert(const Alert& alert) {
+    const auto answer = std::make_shared<int>(alert.escape_button);
+    const auto done = std::make_shared<Awaited>();
+    post([this, alert, answer, promise = std::make_shared<Awaited::Promise>(done)] {
+        open_alert(alert, [answer, promise](int button) {
+            *answer = button;
+            promise->keep();
+        });
+    });
+    done->wait();
+    return *answer;
+}
+
+}  // namespace velk

@@ -1,0 +1,29 @@
+#include "ui/outlets.h"
+
+#include <atomic>
+#include <cassert>
+#include <thread>
+
+namespace velk {
+
+namespace {
+
+std::atomic<std::thread::id> ui_thread{};
+
+}  // namespace
+
+bool on_ui_thread() {
+    const std::thread::id owner = ui_thread;
+    return owner == std::thread::id() || owner == std::this_thread::get_id();
+}
+
+void this_is_the_ui_thread() {
+    ui_thread = std::this_thread::get_id();
+}
+
+void Outlet::changed() {
+    assert(on_ui_thread());
+    for (const Observer& observer : observers_) observer(*this);
+}
+
+}  // namespace velk

@@ -1,0 +1,60 @@
+// The names that the whole program knows, all in this one file.
+//
+// Flags are bytes, 0 or 1, and belong to the user-interface thread like everything that a window
+// shows. A can-click flag is 1 while its action may start: the handler tests it and sets it to 0,
+// the action's worker sets it back when it ends; a handler that finds 0 does nothing and queues
+// nothing. A need-refresh flag is 1 while its table is stale: the section's button tests and
+// clears it, and reloads the table.
+#pragma once
+
+#include <string>
+
+#include "ui/section.h"
+
+namespace velk {
+
+class MainDocument;
+class Contacts_TableSource;
+class View_Start;
+
+// Set once by each of these when it is made, cleared when it goes.
+inline MainDocument* g_window = nullptr;
+inline Contacts_TableSource* g_contacts_tablesource = nullptr;
+inline View_Start* g_View_Start = nullptr;
+
+// The connection.
+inline int g_device = 100;               // arrivals less messages of the USB bus; logged only
+inline Flag g_run_threading = 0;         // 1 from a screen reset to the start of an attempt
+inline int g_total_count = 0;            // attempts since the program's start; logged
+inline int g_kill_adb_server_count = 0;  // attempts that found a phone waiting for "Allow PC"
+inline Flag g_ver4_unauthorized = 0;     // the phone has not allowed this computer yet
+inline Flag g_connected_adb = 0;         // the agent is deployed and the summary read
+inline Flag g_is_to_print = 1;           // progress texts go to the status line
+inline std::string g_device_serial_number;
+
+// Actions that may start.
+inline Flag g_can_click_refresh = 1;
+inline Flag g_can_click_contacts_load = 1;
+inline Flag g_can_click_contacts_import = 1;
+inline Flag g_can_click_sms_load = 1;
+inline Flag g_can_click_loading_animation = 1;
+inline Flag g_loading_animation_stop = 0;  // 1 asks the animation to stop
+
+// Tables that are stale.
+inline Flag g_table_contacts_need_refresh = 1;
+inline Flag g_table_sms_need_refresh = 1;
+inline Flag g_table_app_need_refresh = 1;
+
+// What the phone counted, as the device summary read it.
+inline int g_int_count_contacts = 0;
+inline int g_int_count_sms = 0;
+
+// The look of the toolbar.
+inline constexpr Flag g_toolbar_text_is_white = 1;
+inline Flag b_is_white_ToolBar_ButtonCaption = g_toolbar_text_is_white;
+
+// The start view's points.
+inline constexpr const char* g_PicFileName_LoadingAnimation_Gray = "connectPoint.png";
+inline constexpr const char* g_PicFileName_LoadingAnimation_Light = "connectingPoint.png";
+
+}  // namespace velk

@@ -1,0 +1,72 @@
+#include "ui/worker.h"
+
+#include <pthread.h>
+
+#include <condition_variable>
+#include <list>
+#include <mutex>
+#include <thread>
+
+#include "base/interruptor.h"
+
+namespace velk {
+
+namespace {
+
+struct Running {
+    std::mutex mutex;
+    std::condition_variable one_ended;
+    std::list<Interruptor> interruptors;  // one of each running worker; a list, so none ever moves
+    bool refused = false;
+};
+
+/// Never destroyed: a worker that is still running when the process ends may use it.
+Running& all() {
+    static Running* const running = new Running;
+    return *running;
+}
+
+void run(const std::string& name, const std::function<void()>& body,
+         std::list<Interruptor>::iterator own) {
+    pthread_setname_np(pthread_self(), name.substr(0, 15).c_str());
+    {
+        const Interruptor::Use use(*own);
+        body();
+    }
+    Running& workers = all();
+    const std::lock_guard lock(workers.mutex);
+    workers.interruptors.erase(own);
+    workers.one_ended.notify_all();
+}
+
+}  // namespace
+
+void Worker::start(const std::string& name, std::function<void()> body) {
+    Running& workers = all();
+    const std::lock_guard lock(workers.mutex);
+    if (workers.refused) return;
+    const auto own = workers.interruptors.emplace(workers.interruptors.end());
+    std::thread([name, body = std::move(body), own] { run(name, body, own); }).detach();
+}
+
+int Worker::running() {
+    Running& workers = all();
+    const std::lock_guard lock(workers.mutex);
+    return static_cast<int>(workers.interruptors.size());
+}
+
+bool Worker::stop_all(std::chrono::milliseconds time) {
+    Running& workers = all();
+    std::unique_lock lock(workers.mutex);
+    workers.refused = true;
+    for (Interruptor& interruptor : workers.interruptors) interruptor.cancel();
+    return workers.one_ended.wait_for(lock, time, [&] { return workers.interruptors.empty(); });
+}
+
+void Worker::allow_start() {
+    Running& workers = all();
+    const std::lock_guard lock(workers.mutex);
+    workers.refused = false;
+}
+
+}  // namespace velk
