@@ -52,6 +52,8 @@ class Contacts_TableSource {
   private:
     /// Worker: asks the phone for all contacts and appends a row for each.
     void TableView_FullData();
+    /// Appends one loaded row and tells of it.
+    void append(const Contacts_TableSource_Column& row);
 
     Main_Window& window_;
 };

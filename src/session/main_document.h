@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
@@ -21,6 +22,8 @@ inline constexpr const char* g_StartDetectDevices = "";
 inline constexpr const char* g_StartInstallApp = "Installing the application on your phone...";
 inline constexpr const char* g_DelPreVerOfApk =
     "Deleting the old version of the application on your phone...";
+
+class Summary_Reader;
 
 /// Owns the device session and the state of the main window. Everything here belongs to the
 /// user-interface thread unless it says otherwise; what an attempt's worker changes on the window
@@ -63,9 +66,7 @@ class MainDocument : public Main_Window, public Window_Outlets, public Adb_Wrapp
     /// Shows a view in the content box; nullptr hides the box. Any thread.
     void displayViewController(MainViewController* view);
     /// Shows the view with this id. Any thread.
-    void displayViewController(int id) {
-        displayViewController(m_views.at(static_cast<std::size_t>(id)).get());
-    }
+    void displayViewController(int id);
     /// Hides or shows the summary page's controls. Any thread.
     void hidden_some(bool hidden);
     void setButtonColor(Button& button, Colour colour);
@@ -105,6 +106,8 @@ class MainDocument : public Main_Window, public Window_Outlets, public Adb_Wrapp
 
     // --- a run loop source and a timer that nothing starts ------------------------------------
 
+    /// Calls start_work_for_main_thread once and timer_function1 every 0.2 seconds until the
+    /// program ends. Neither does anything, and nothing starts this.
     void Start_MultiThread();
     void start_work_for_main_thread() {}
     void timer_function1() {}
@@ -118,19 +121,25 @@ class MainDocument : public Main_Window, public Window_Outlets, public Adb_Wrapp
     void device_is_not_usable();
     void device_is_usable(const std::string& serial);
     void adb_basic_informatin(const std::string& serial);
-    void get_mobile_basic_information();
 
+    // The device summary. The order of the requests is fixed.
+    void get_mobile_basic_information(Busy_Note& note);
+    void show_battery(const std::string& per_cent);
+    void read_storage(Summary_Reader& phone);
+    std::int32_t show_size(const std::string& reported, Label& label);
+    void read_counts(Summary_Reader& phone);
+
+    void set_fixed_captions();
     bool may_leave_the_section() const;
     bool may_show_media() const;
-    void show_section(int id, Flag* stale, const std::function<void()>& reload);
-    void set_captions_again();
+    void show_section(int id);
+    void show_trouble(int id);
 
     /// Does this on the user-interface thread: at once there, posted in order from a worker.
     void on_window(Desktop::Closure change) { desktop_.perform(std::move(change)); }
     void show(Label& label, std::string text);
 
     Desktop& desktop_;
-    std::function<void()> timer_;
 };
 
 }  // namespace velk

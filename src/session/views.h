@@ -2,6 +2,7 @@
 // for each the first time that it is shown.
 #pragma once
 
+#include <array>
 #include <string>
 
 #include "ui/for_thread_var.h"
@@ -91,8 +92,12 @@ class View_Start : public Connection_View {
                            float TimeInterval);
 
   private:
+    static constexpr int no_point = -1;
+
+    std::array<Image*, 4> all_points();
     void animate(const For_Thread_Var& arguments);
-    void switch_to_points(bool points);
+    void switch_to_points(bool to_points);
+    /// Lights one point, counted from 0, and no other.
     void light(int lit, const For_Thread_Var& arguments);
 };
 

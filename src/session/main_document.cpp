@@ -1,0 +1,104 @@
+#include "session/main_document.h"
+
+#include <chrono>
+#include <cstdlib>
+#include <future>
+
+#include "agent/sock_apk.h"
+#include "base/trace.h"
+#include "session/view_contacts.h"
+#include "ui/program_wide.h"
+#include "ui/worker.h"
+#include "version.h"
+
+namespace velk {
+
+namespace {
+
+// Closing the window ends the program within two seconds, whatever the phone does.
+constexpr std::chrono::milliseconds time_for_the_last_request{1000};
+constexpr std::chrono::milliseconds time_for_the_workers{700};
+
+constexpr const char* code_of_the_last_request = "90";
+constexpr double seconds_of_the_timer = 0.2;
+
+}  // namespace
+
+MainDocument::MainDocument(Desktop& desktop, const std::string& directory)
+    : Adb_Wrappers(desktop, directory), desktop_(desktop) {
+    g_window = this;
+    g_device = 100;
+    m_LB_ps.set_text("Loading......");
+    m_LevelIndicator_Size_Phone.set_value(0);
+    m_LevelIndicator_Size_Storage.set_value(0);
+    set_fixed_captions();
+    m_views = {std::make_unique<View_Start>(),         std::make_unique<View_AllowPCConnect>(),
+               std::make_unique<View_Contacts>(*this), std::make_unique<View_SMS>(),
+               std::make_unique<View_NULL>(),          std::make_unique<View_SettingPhoneUSB>(),
+               std::make_unique<View_App>(),           std::make_unique<View_Music>(),
+               std::make_unique<View_Photo>(),         std::make_unique<View_Video>(),
+               std::make_unique<View_Book>()};
+    for (const auto& view : m_views) view->managedObjectContext = this;
+    refresh_ini_ui();
+}
+
+MainDocument::~MainDocument() {
+    g_window = nullptr;
+}
+
+void MainDocument::set_fixed_captions() {
+    m_BT_MyAndroid.set_title("My Android");
+    m_BT_Refresh.set_title("Refresh");
+    m_BT_Bottom_Contacts.set_title("Contacts");
+    m_BT_Bottom_SMS.set_title("SMS");
+    m_BT_Bottom_Apps.set_title("Apps");
+    m_LB_Free_Phone_Caption.set_text("Free");
+    m_LB_Free_Storage_Caption.set_text("Free");
+}
+
+void MainDocument::windowControllerDidLoadNib() {
+    set_BT_Caption_White();
+    m_Progress_Battery.set_value(0);
+    m_BT_Contacts.set_centred(true);
+    window_title.set_text(g_product_name);
+    hidden_some(false);
+    displayViewController(DEFINE_VIEW_Start);
+}
+
+void MainDocument::windowWillClose() {
+    desktop_.close_gate();
+    const auto answered = std::make_shared<std::promise<void>>();
+    const std::future<void> answer = answered->get_future();
+    Worker::start("last request", [answered] {
+        sock_apk().send_command_to_apk_for_get_something(code_of_the_last_request);
+        answered->set_value();
+    });
+    answer.wait_for(time_for_the_last_request);
+    if (!Worker::stop_all(time_for_the_workers)) {
+        // Something outside does not let go; what it holds must not outlive the window.
+        flush_trace();
+        std::_Exit(EXIT_SUCCESS);
+    }
+    desktop_.terminate();
+}
+
+void MainDocument::Start_MultiThread() {
+    Worker::start("timer", [this] {
+        desktop_.post([this] { start_work_for_main_thread(); });
+        while (desktop_.sleep(seconds_of_the_timer)) desktop_.post([this] { timer_function1(); });
+    });
+}
+
+void MainDocument::show(Label& label, std::string text) {
+    on_window([&label, text = std::move(text)] { label.set_text(text); });
+}
+
+void MainDocument::show_message(const std::string& text) {
+    const Alert alert{.title = "Information", .text = text, .buttons = {"OK"}};
+    if (on_ui_thread())
+        desktop_.open_alert(alert, [](int) {});
+    else
+        desktop_.run_alert(alert);
+}
+
+}  // namespace velk
