@@ -1,0 +1,126 @@
+// The client of the agent, the small application that answers for the phone.
+//
+// Every request is one short-lived connection to the local end of the tool's port forward: connect,
+// send, read the reply, close. There is no login, no time limit and no error value: an agent that
+// cannot be reached gives an empty reply, a silent one blocks the calling thread until it answers
+// or the thread's Interruptor is cancelled.
+//
+// Replies are byte strings that may hold NUL bytes; texts inside them are UTF-8.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace velk {
+
+/// Made afresh for each job; one thread at a time. Holds nothing but the command codes.
+class sock_apk {
+  public:
+    /// Values as the agent sent them. ID and name carry bytes behind their first NUL that belong to
+    /// the next fields: read them as C strings (until_nul).
+    struct CONTACT {
+        int index = 0;  // not set by the list
+        std::string ID;
+        std::string name;
+        std::string tel;
+    };
+
+    // --- single requests (requests.cpp) -------------------------------------------------------
+    // A code is the decimal text of a request's number, of which the low 7 bits are sent.
+
+    /// The short value that the agent answers with: a count, a size in bytes, a name.
+    std::string send_command_to_apk_for_get_something(const char* code);
+    /// The last byte of the reply as signed decimal text; empty without a reply.
+    std::string get_battery_from_apk(const char* code);
+    /// Sends a whole command and gives the reply's bytes, 1024 of them at most.
+    std::string send_command(const std::string& command);
+    std::string send_command1(const std::string& command);
+
+    // --- contacts (contacts.cpp) --------------------------------------------------------------
+
+    /// Appends the phone's contacts in the agent's order. The result is what was left unparsed.
+    /// `too_long` (when given) tells whether the reply was longer than the protocol carries, in
+    /// which case none of its contacts are there.
+    std::string send_command_get_contatcts_array(const char* code, std::vector<CONTACT>& contacts,
+                                                 bool* too_long = nullptr);
+    /// The same exchange; the contacts are only traced.
+    std::string send_command_get_contatcts(const char* code);
+    /// Appends the contacts of one chunk, which counts only when it is one whole reply.
+    static void get_contacts_data_to_stru_array(const std::string& chunk, int length,
+                                                int first_chunk, std::vector<CONTACT>& contacts);
+    /// One contact out of its record: three texts of L1, L2 and L3 bytes, each behind its length.
+    static CONTACT one_contact(const std::string& record, int L1, int L2, int L3, int length);
+
+    /// The raw reply, for get_contact_id(); empty when the agent cannot be reached.
+    std::string add_one_contact(const char* name, const char* tel);
+    /// The id that the phone gave the added contact; empty when it gave none.
+    static std::string get_contact_id(const std::string& add_reply);
+    // True when the agent answered at all.
+    bool modify_one_contact(const char* name, const char* tel, const char* ID);
+    bool del_one_contact(const char* ID);
+
+    // The requests' bytes. The one-byte lengths in them wrap at 128.
+    static std::string get_add_contact_command(const char* name, const char* tel);
+    static std::string get_modify_contact_command(const char* name, const char* tel,
+                                                  const char* ID);
+    static std::string get_del_contact_command(const char* ID);
+
+    // --- bare commands (commands.cpp) ---------------------------------------------------------
+
+    /// The six bytes of a command without arguments.
+    static std::string get_command(int code);
+    /// Sends it; true when the agent answered.
+    bool do_command(int code);
+
+    int getCommand_DelMusicFile() const { return del_music_file_; }
+    int getCommand_DelVideoFile() const { return del_video_file_; }
+    int getCommand_DelBookFile() const { return del_book_file_; }
+    int getCommand_DelPhotoFile() const { return del_photo_file_; }
+    int getCommand_AddMusicFile() const { return add_music_file_; }
+    int getCommand_AddVideoFile() const { return add_video_file_; }
+    int getCommand_AddPhotoFile() const { return add_photo_file_; }
+    int getCommand_AddBookFile() const { return add_book_file_; }
+    int getCommand_DelAllContacts() const { return del_all_contacts_; }
+    int getCommand_DelAllSMS() const { return del_all_sms_; }
+
+    // --- numbers and texts of the wire (codec.cpp) --------------------------------------------
+    // Decimal texts are read as far as they are numbers (else 0) and wrapped to 32 bits.
+
+    /// The low 7 bits: codes and one-byte lengths above 127 wrap.
+    static int toascii(int value) { return value & 0x7F; }
+    /// A reply's length field, big-endian, of which only the low 16 bits count. Missing bytes
+    /// count as 0.
+    static int for_java_char4_to_int(std::string_view four_bytes);
+    /// A big-endian field of two bytes, unsigned. Missing bytes count as 0.
+    static int for_java_char2_to_int(std::string_view two_bytes);
+    /// Four bytes, least significant first.
+    static std::string for_java_int(const char* decimal);
+    /// Four bytes: three zeros and the number's low byte.
+    static std::string for_int_to_java_char4(const char* decimal);
+    /// A size of the summary: "1.50GB". "0B" up to 1024 bytes, empty below 0.
+    static std::string format_size(std::int32_t bytes);
+    /// A size of a list: "1.50 GB".
+    static std::string get_size(const char* decimal);
+    /// A duration of so many milliseconds: "01:02:05".
+    static std::string get_time(const char* decimal);
+
+    // Two routines that nothing calls.
+    static int get_sum(int a, int b) { return a + b; }
+    static std::string get_your_name(const char* name);
+
+  private:
+    std::int32_t del_music_file_ = 80;
+    std::int32_t del_video_file_ = 82;
+    std::int32_t del_book_file_ = 57;
+    std::int32_t del_photo_file_ = 84;
+    std::int32_t add_music_file_ = 108;
+    std::int32_t add_video_file_ = 109;
+    std::int32_t add_photo_file_ = 110;
+    std::int32_t add_book_file_ = 113;
+    std::int32_t del_all_contacts_ = 120;
+    std::int32_t del_all_sms_ = 22;
+};
+
+}  // namespace velk
