@@ -2,8 +2,8 @@
 
 #include <fcntl.h>
 #include <poll.h>
-#include <sys/pidfd.h>
 #include <sys/prctl.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -109,6 +109,12 @@ void listen(int stream, int ended, const Child_Listener& listener) {
     }
 }
 
+/// Becomes readable when the child ends. Without one (an old system) a stream that somebody else
+/// keeps open is listened to until it ends.
+int descriptor_of(pid_t child) {
+    return static_cast<int>(::syscall(SYS_pidfd_open, child, 0));
+}
+
 int status_after(int wait_status) {
     if (WIFEXITED(wait_status)) return WEXITSTATUS(wait_status);
     return status_of_the_first_signal + WTERMSIG(wait_status);
@@ -134,7 +140,7 @@ int run_child(const Child_Command& command, const Child_Listener& listener) {
 
     {
         const Interruptor::Child registered(child);
-        const Descriptor ended(::pidfd_open(child, 0));
+        const Descriptor ended(descriptor_of(child));
         listen(stream.number(), ended.number(), listener);
         siginfo_t unused;
         while (::waitid(P_PID, static_cast<id_t>(child), &unused, WEXITED | WNOWAIT) < 0 &&
