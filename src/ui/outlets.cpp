@@ -21,8 +21,9 @@ void this_is_the_ui_thread() {
     ui_thread = std::this_thread::get_id();
 }
 
-void Outlet::changed() {
+void Outlet::changed(const char* what) {
     assert(on_ui_thread());
+    last_change_ = what;
     for (const Observer& observer : observers_) observer(*this);
 }
 

@@ -29,22 +29,27 @@ class Outlet {
 
     const std::string& name() const { return name_; }
     bool hidden() const { return hidden_; }
-    void set_hidden(bool hidden) { change(hidden_, hidden); }
+    void set_hidden(bool hidden) { change(hidden_, hidden, "hidden"); }
+
+    /// Which value was set last: "text", "hidden" ... For observers, since a value may be set to
+    /// what it was.
+    const std::string& last_change() const { return last_change_; }
 
     /// Observers live as long as the outlet.
     void observe(Observer observer) { observers_.push_back(std::move(observer)); }
 
   protected:
-    void changed();
+    void changed(const char* what = "value");
     template <class Value>
-    void change(Value& field, Value value) {
+    void change(Value& field, Value value, const char* what = "value") {
         field = std::move(value);
-        changed();
+        changed(what);
     }
 
   private:
     std::string name_;
     bool hidden_ = false;
+    std::string last_change_;
     std::vector<Observer> observers_;
 };
 
@@ -53,9 +58,9 @@ class Label : public Outlet {
   public:
     using Outlet::Outlet;
     const std::string& text() const { return text_; }
-    void set_text(std::string text) { change(text_, std::move(text)); }
+    void set_text(std::string text) { change(text_, std::move(text), "text"); }
     const std::string& tool_tip() const { return tool_tip_; }
-    void set_tool_tip(std::string text) { change(tool_tip_, std::move(text)); }
+    void set_tool_tip(std::string text) { change(tool_tip_, std::move(text), "tool tip"); }
 
   private:
     std::string text_;
@@ -76,16 +81,16 @@ class Button : public Outlet {
     /// A new title comes in the window's own colour, until it is coloured again.
     void set_title(std::string title) {
         coloured_ = false;
-        change(title_, std::move(title));
+        change(title_, std::move(title), "title");
     }
     bool coloured() const { return coloured_; }
     Colour colour() const { return colour_; }
     void set_colour(Colour colour) {
         coloured_ = true;
-        change(colour_, colour);
+        change(colour_, colour, "colour");
     }
     bool centred() const { return centred_; }
-    void set_centred(bool centred) { change(centred_, centred); }
+    void set_centred(bool centred) { change(centred_, centred, "centred"); }
 
   private:
     std::string title_;
@@ -112,7 +117,7 @@ class Image : public Outlet {
   public:
     using Outlet::Outlet;
     const std::string& picture() const { return picture_; }
-    void set_picture(std::string file) { change(picture_, std::move(file)); }
+    void set_picture(std::string file) { change(picture_, std::move(file), "picture"); }
 
   private:
     std::string picture_;
@@ -123,7 +128,7 @@ class Text_Field : public Outlet {
   public:
     using Outlet::Outlet;
     const std::string& text() const { return text_; }
-    void set_text(std::string text) { change(text_, std::move(text)); }
+    void set_text(std::string text) { change(text_, std::move(text), "text"); }
 
   private:
     std::string text_;
