@@ -1,0 +1,101 @@
+#include "support/test_desktop.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <chrono>
+
+#include "base/interruptor.h"
+#include "base/text.h"
+#include "ui/worker.h"
+
+namespace velk {
+
+namespace {
+
+constexpr std::chrono::seconds longer_than_needed{60};
+/// How often a condition is looked at that no posted closure brings about.
+constexpr std::chrono::milliseconds look_again{2};
+
+}  // namespace
+
+Test_Desktop::~Test_Desktop() {
+    end_work();
+}
+
+void Test_Desktop::end_work() {
+    close_gate();
+    EXPECT_TRUE(Worker::stop_all(longer_than_needed)) << "a worker does not end";
+    Worker::allow_start();
+}
+
+void Test_Desktop::wake() {
+    const std::lock_guard lock(mutex_);
+    woken_ = true;
+    wake_up_.notify_all();
+}
+
+bool Test_Desktop::wait_for_wake() {
+    std::unique_lock lock(mutex_);
+    wake_up_.wait_for(lock, look_again, [this] { return woken_; });
+    return std::exchange(woken_, false);
+}
+
+void Test_Desktop::pump() {
+    while (wait_for_wake()) run_turn();
+}
+
+bool Test_Desktop::pump_until(const std::function<bool()>& condition) {
+    const auto deadline = std::chrono::steady_clock::now() + longer_than_needed;
+    while (!condition()) {
+        if (std::chrono::steady_clock::now() > deadline) {
+            ADD_FAILURE() << "what the test waits for does not come";
+            return false;
+        }
+        if (wait_for_wake()) run_turn();
+    }
+    return true;
+}
+
+void Test_Desktop::press(int button) {
+    ASSERT_TRUE(alert_is_open());
+    std::exchange(open_, nullptr)(button);
+}
+
+void Test_Desktop::open_alert(const Alert& alert, std::function<void(int)> answered) {
+    alerts_.push_back(alert);
+    note("alert: " + alert.text);
+    if (answers_.empty()) {
+        ADD_FAILURE() << "nobody expected the alert \"" << alert.text << '"';
+        answered(alert.escape_button);
+        return;
+    }
+    const int answer = answers_.front();
+    answers_.pop_front();
+    if (answer == held)
+        open_ = std::move(answered);
+    else
+        answered(answer);
+}
+
+bool Test_Desktop::sleep(double seconds) {
+    if (!sleeps_are_instant_) return Desktop::sleep(seconds);
+    perform([this, seconds] { note(format("sleep %g", seconds)); });
+    return !Interruptor::current().cancelled();
+}
+
+void Test_Desktop::terminate() {
+    terminated_ = true;
+    note("terminate");
+}
+
+int Test_Desktop::beeps() const {
+    return static_cast<int>(std::count(notes_.begin(), notes_.end(), "beep"));
+}
+
+void Test_Desktop::note(const std::string& text) {
+    notes_.push_back(text);
+    if (on_note) on_note(text);
+}
+
+}  // namespace velk

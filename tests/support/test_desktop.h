@@ -1,0 +1,82 @@
+// A Desktop without a window: the test's own thread is the user-interface thread.
+#pragma once
+
+#include <atomic>
+#include <condition_variable>
+#include <deque>
+#include <functional>
+#include <mutex>
+#include <string>
+#include <vector>
+
+#include "ui/desktop.h"
+
+namespace velk {
+
+/// Make it on the test's thread. The queue runs only inside pump() and pump_until().
+class Test_Desktop : public Desktop {
+  public:
+    Test_Desktop() = default;
+    ~Test_Desktop() override;
+
+    /// Runs what is posted, until nothing is left.
+    void pump();
+    /// Runs what is posted until the condition holds. Fails the test (and gives false) when that
+    /// takes longer than any machine needs.
+    bool pump_until(const std::function<bool()>& condition);
+    /// Closes the gate, ends all workers and lets later ones start again. Call it before what the
+    /// workers use goes; the destructor does it too.
+    void end_work();
+
+    // Alerts. One that was not scripted fails the test at once, and is answered by Escape.
+
+    /// The next alert gets this answer as soon as it opens.
+    void answer_alert(int button) { answers_.push_back(button); }
+    /// The next alert stays open until press(button).
+    void hold_alert() { answers_.push_back(held); }
+    void press(int button);
+    bool alert_is_open() const { return static_cast<bool>(open_); }
+    /// All that were opened.
+    const std::vector<Alert>& alerts() const { return alerts_; }
+
+    /// From here on a worker's sleeps take no time, and are noted in its own order: "sleep 0.6".
+    void make_sleeps_instant() { sleeps_are_instant_ = true; }
+
+    /// Told of "beep", "alert: text", "sleep 0.6" and "terminate" as they come, on the test's
+    /// thread; an Outlet_Recorder's note, for instance.
+    std::function<void(const std::string&)> on_note;
+    const std::vector<std::string>& notes() const { return notes_; }
+    int beeps() const;
+    bool terminated() const { return terminated_; }
+
+    /// What end_editing() answers.
+    bool editing_ends = true;
+
+    bool sleep(double seconds) override;
+    void open_alert(const Alert& alert, std::function<void(int)> answered) override;
+    void beep() override { note("beep"); }
+    bool end_editing() override { return editing_ends; }
+    void terminate() override;
+
+  protected:
+    void wake() override;
+
+  private:
+    static constexpr int held = -1;
+
+    void note(const std::string& text);
+    bool wait_for_wake();
+
+    std::mutex mutex_;
+    std::condition_variable wake_up_;
+    bool woken_ = false;
+
+    std::deque<int> answers_;
+    std::function<void(int)> open_;
+    std::vector<Alert> alerts_;
+    std::vector<std::string> notes_;
+    std::atomic<bool> sleeps_are_instant_ = false;
+    bool terminated_ = false;
+};
+
+}  // namespace velk
