@@ -71,6 +71,7 @@ int perform(const Fake_Adb::Answer& answer) {
         case Fake_Adb::Behaviour::crashes:
             std::abort();
         case Fake_Adb::Behaviour::hangs:
+            record("hanging", std::to_string(getpid()) + '\0');
             alarm(seconds_to_live);
             for (;;) pause();
         case Fake_Adb::Behaviour::leaves_a_server:

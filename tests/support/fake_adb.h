@@ -84,6 +84,16 @@ class Fake_Adb {
         return lines;
     }
 
+    /// True while a tool that was told to hang has not been ended.
+    bool is_hanging() const {
+        for (const std::string& tool : fields("hanging")) {
+            std::ifstream file("/proc/" + tool + "/stat");
+            std::string number, name, state;
+            if (file >> number >> name >> state && state != "Z" && state != "X") return true;
+        }
+        return false;
+    }
+
     void forget_calls() const { std::filesystem::remove(directory_ / "calls"); }
 
     // Shared with the tool's program: where an answer stands, and how a call ends in the record.
