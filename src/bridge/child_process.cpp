@@ -45,6 +45,12 @@ class Descriptor {
     int number_;
 };
 
+/// For the forked copy; perror() may need a lock that another thread held.
+void tell_that_it_cannot_be_run(std::string_view program) {
+    for (const std::string_view text : {program, std::string_view(": cannot be run here\n")})
+        if (::write(STDERR_FILENO, text.data(), text.size()) < 0) return;
+}
+
 /// Turns the forked copy into the child. Other threads are gone here and may have held any lock,
 /// so there is nothing but system calls.
 [[noreturn]] void become(const Child_Command& command, char* const* arguments, int pipe,
@@ -66,6 +72,7 @@ class Descriptor {
     ::sigemptyset(&none);
     ::sigprocmask(SIG_SETMASK, &none, nullptr);
     ::execv(arguments[0], arguments);
+    tell_that_it_cannot_be_run(arguments[0]);
     ::_exit(status_of_a_missing_program);
 }
 

@@ -1,0 +1,39 @@
+#include "launcher/habits.h"
+
+#include <filesystem>
+
+namespace velk {
+
+std::string older_device_list(std::string_view output) {
+    constexpr std::string_view header_end = "attached";
+    std::string list;
+    bool in_list = false;
+    while (!output.empty()) {
+        const std::size_t length = output.find('\n');
+        const bool ends_in_break = length != std::string_view::npos;
+        std::string_view line = output.substr(0, length);
+        output.remove_prefix(line.size() + (ends_in_break ? 1 : 0));
+
+        if (in_list) line = line.substr(0, line.find("; see ["));
+        list += line;
+        if (!in_list && ends_in_break && line.ends_with(header_end)) list += ' ';
+        if (line.find(header_end) != std::string_view::npos) in_list = true;
+        if (ends_in_break) list += '\n';
+    }
+    return list;
+}
+
+bool means_a_folder(std::string_view phone_path) {
+    const std::size_t last = phone_path.find_last_not_of('/');
+    if (last == std::string_view::npos) return false;  // the root is there
+    return !std::filesystem::path(phone_path.substr(0, last + 1)).has_extension();
+}
+
+std::string quoted_for_the_phone(std::string_view word) {
+    std::string quoted = "'";
+    for (const char byte : word)
+        quoted += byte == '\'' ? std::string("'\\''") : std::string(1, byte);
+    return quoted + "'";
+}
+
+}  // namespace velk
