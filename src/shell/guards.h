@@ -1,0 +1,34 @@
+// Buttons that are disabled while the action they start may not start.
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <functional>
+#include <vector>
+
+#include "ui/section.h"
+
+class QAbstractButton;
+
+namespace velk {
+
+class Guards : public QObject {
+    Q_OBJECT
+
+  public:
+    /// A click on the button runs `run`. The button is disabled while `guard` is 0; a button
+    /// without a guard is always enabled.
+    void connect_button(QAbstractButton* button, const Flag* guard, std::function<void()> run);
+
+    /// Looks at all flags again; to be called when something may have changed one.
+    void look_again();
+
+  private:
+    struct Guarded {
+        QPointer<QAbstractButton> button;
+        const Flag* guard;
+    };
+    std::vector<Guarded> guarded_;
+};
+
+}  // namespace velk

@@ -1,0 +1,61 @@
+#include <unistd.h>
+
+#include <QApplication>
+#include <QTimer>
+#include <clocale>
+#include <csignal>
+#include <cstdio>
+#include <memory>
+
+#include "base/trace.h"
+#include "session/main_document.h"
+#include "shell/look.h"
+#include "shell/options.h"
+#include "shell/qt_desktop.h"
+#include "shell/tour.h"
+#include "shell/unix_signals.h"
+#include "shell/velk_window.h"
+#include "version.h"
+
+namespace {
+
+int print(const velk::Answer& answer) {
+    std::fputs(answer.text.c_str(), answer.status == 0 ? stdout : stderr);
+    return answer.status;
+}
+
+int run(const velk::Options& options) {
+    QApplication::setQuitOnLastWindowClosed(false);  // the document ends the program
+    const velk::Look_Keeper look;
+    velk::Qt_Desktop desktop;
+    velk::MainDocument document(desktop);
+    velk::Velk_Window window(document, desktop);
+    const velk::Unix_Signals signals([&window] { window.close(); });
+    std::unique_ptr<velk::Tour> tour;
+    window.show();
+    if (!options.tour.empty())
+        tour = std::make_unique<velk::Tour>(document, window, options.tour);
+    else if (options.connect)
+        QTimer::singleShot(0, &window, [&document] { document.OnBT_Refresh(); });
+    const int status = QApplication::exec();
+    return tour ? tour->status() : status;
+}
+
+}  // namespace
+
+int main(int count, char** arguments) {
+    std::signal(SIGPIPE, SIG_IGN);  // a connection that the other side closed must not kill us
+    if (!isatty(STDOUT_FILENO)) std::setvbuf(stdout, nullptr, _IOFBF, 1 << 16);
+    if (const auto answer = velk::answer_without_display(count, arguments)) return print(*answer);
+    QApplication application(count, arguments);
+    // Names are put in the order of the person's language; sizes keep their point everywhere.
+    std::setlocale(LC_ALL, "");
+    std::setlocale(LC_NUMERIC, "C");
+    QApplication::setApplicationName(velk::g_product_name);
+    QApplication::setApplicationVersion(velk::g_version);
+    QApplication::setDesktopFileName("velk");
+    const velk::Options options = velk::options_of(count, arguments);
+    const int status = options.wrong ? print(*options.wrong) : run(options);
+    velk::flush_trace();
+    return status;
+}

@@ -1,0 +1,26 @@
+// The program's drawings, in the colours of the desktop's theme.
+#pragma once
+
+#include <QColor>
+#include <QIcon>
+#include <QPixmap>
+#include <QSize>
+#include <QString>
+
+namespace velk {
+
+/// An icon's drawing in one colour; `ratio` is the screen's device pixels per pixel. Empty when
+/// there is no such drawing, or no reader for it on this system.
+QPixmap icon_pixmap(const QString& name, QSize size, qreal ratio, const QColor& ink);
+
+/// An icon for buttons on the window's own ground, which follows the theme and the button's state.
+/// `on_accent` is for buttons that are filled with the accent colour. Empty for a name without a
+/// drawing.
+QIcon themed_icon(const QString& name, bool on_accent = false);
+
+/// A picture by its file's name ("usbLine.png", or "phone" for one that is only drawn), as large
+/// as fits into `size`. A drawing of that name takes on the theme's colours; a finished picture
+/// does not.
+QPixmap picture(const QString& name, QSize size, qreal ratio);
+
+}  // namespace velk

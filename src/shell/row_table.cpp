@@ -1,0 +1,170 @@
+#include "shell/row_table.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QHeaderView>
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QStyledItemDelegate>
+#include <QToolTip>
+#include <algorithm>
+#include <utility>
+
+#include "shell/look.h"
+#include "shell/table_model.h"
+#include "shell/text_label.h"
+
+namespace velk {
+
+namespace {
+
+constexpr int space_in_a_row = 14;
+constexpr int space_beside_a_cell = 8;
+
+QString one_line(QString text) {
+    for (QChar& character : text)
+        if (character.category() == QChar::Other_Control) character = u' ';
+    return text;
+}
+
+/// Cells are one line of text; a right-to-left text is set from its own side but keeps its place,
+/// and a text without room is told in full by the tool tip.
+class Cell_Delegate : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QString displayText(const QVariant& value, const QLocale&) const override {
+        return one_line(value.toString());
+    }
+
+    bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                   const QModelIndex& index) override {
+        if (event->type() != QEvent::ToolTip)
+            return QStyledItemDelegate::helpEvent(event, view, option, index);
+        const QString text = index.data().toString();
+        const int room = option.rect.width() - 2 * space_beside_a_cell;
+        const bool fits = view->fontMetrics().horizontalAdvance(text) <= room;
+        QToolTip::showText(event->globalPos(), fits ? QString() : plain_tool_tip(text), view);
+        return true;
+    }
+
+  protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+        QStyledItemDelegate::initStyleOption(option, index);
+        if (option->text.isRightToLeft()) {
+            option->direction = Qt::RightToLeft;
+            option->displayAlignment |= Qt::AlignAbsolute;
+        }
+    }
+};
+
+}  // namespace
+
+Row_Table::Row_Table(Table& table, Binding& binding, QString empty_text, QWidget* parent)
+    : QTableView(parent),
+      table_(table),
+      model_(new Table_Model(table, this)),
+      empty_text_(std::move(empty_text)),
+      scrolls_(table.scrolls()) {
+    setModel(model_);
+    setItemDelegate(new Cell_Delegate(this));
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(ExtendedSelection);
+    setEditTriggers(DoubleClicked | EditKeyPressed);
+    setTabKeyNavigation(false);  // Tab leads on to the next control
+    setAlternatingRowColors(true);
+    setShowGrid(false);
+    setWordWrap(false);
+    setVerticalScrollMode(ScrollPerPixel);
+    setAccessibleDescription(empty_text_);
+    set_up_columns();
+    connect(selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &Row_Table::report_selection);
+    connect(selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            &Row_Table::report_selection);
+    connect(horizontalHeader(), &QHeaderView::sectionClicked, this, &Row_Table::sort_by);
+    binding.bind(table, this, [this] { show_changes(); });
+}
+
+// All sizes are set once: measuring rows takes longer than everything else together.
+void Row_Table::set_up_columns() {
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + space_in_a_row);
+    QHeaderView* const header = horizontalHeader();
+    header->setHighlightSections(false);
+    header->setSectionsClickable(true);
+    header->setMinimumSectionSize(48);
+    for (int i = 0; i < model_->columnCount(); ++i) {
+        const Column& column = model_->column(i);
+        setColumnWidth(i, fontMetrics().averageCharWidth() * column.width + 20);
+        if (column.wide) header->setSectionResizeMode(i, QHeaderView::Stretch);
+    }
+}
+
+void Row_Table::show_changes() {
+    const int rows_before = model_->rowCount();
+    model_->catch_up();
+    // The arrow only tells what a click has done; other rows are not sorted.
+    if (model_->rowCount() != rows_before) horizontalHeader()->setSortIndicatorShown(false);
+    if (std::exchange(scrolls_, table_.scrolls()) != table_.scrolls()) scrollToBottom();
+}
+
+std::vector<int> Row_Table::selected_row_numbers() const {
+    std::vector<int> rows;
+    for (const QItemSelectionRange& range : selectionModel()->selection())
+        for (int row = range.top(); row <= range.bottom(); ++row) rows.push_back(row);
+    std::sort(rows.begin(), rows.end());
+    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+    return rows;
+}
+
+void Row_Table::report_selection() {
+    model_->catch_up();  // a selection of rows that are gone is none
+    std::vector<int> rows = selected_row_numbers();
+    const int current = currentIndex().row();
+    const bool selected = std::binary_search(rows.begin(), rows.end(), current);
+    const int last = rows.empty() ? -1 : selected ? current : rows.back();
+    table_.select(std::move(rows), last);
+}
+
+void Row_Table::sort_by(int column) {
+    QHeaderView* const header = horizontalHeader();
+    const bool again = header->isSortIndicatorShown() && header->sortIndicatorSection() == column &&
+                       header->sortIndicatorOrder() == Qt::AscendingOrder;
+    const Qt::SortOrder order = again ? Qt::DescendingOrder : Qt::AscendingOrder;
+    table_.sort(model_->table_column(column), order == Qt::AscendingOrder);
+    show_changes();
+    header->setSortIndicator(column, order);
+    header->setSortIndicatorShown(true);
+}
+
+void Row_Table::copy_selection() const {
+    QString text;
+    for (const int row : selected_row_numbers()) {
+        QStringList cells;
+        for (int column = 0; column < model_->columnCount(); ++column)
+            cells.append(one_line(model_->index(row, column).data().toString()));
+        text += cells.join(u'\t') + u'\n';
+    }
+    if (!text.isEmpty()) QApplication::clipboard()->setText(text);
+}
+
+void Row_Table::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Copy))
+        copy_selection();
+    else
+        QTableView::keyPressEvent(event);
+}
+
+void Row_Table::paintEvent(QPaintEvent* event) {
+    QTableView::paintEvent(event);
+    if (model_->rowCount() > 0) return;
+    QPainter painter(viewport());
+    painter.setPen(Look::now().muted);
+    painter.drawText(viewport()->rect().adjusted(24, 24, -24, -24),
+                     static_cast<int>(Qt::AlignCenter) | Qt::TextWordWrap, empty_text_);
+}
+
+}  // namespace velk

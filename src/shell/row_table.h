@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QTableView>
+
+#include "shell/binding.h"
+#include "ui/table.h"
+
+namespace velk {
+
+class Table_Model;
+
+/// A table on the window: shows a Table's rows, reports what the person selects, sorts the rows
+/// themselves when a header is clicked, and copies the selection as text.
+class Row_Table : public QTableView {
+    Q_OBJECT
+
+  public:
+    /// `table` must outlive this. `empty_text` stands in the table while it has no rows.
+    Row_Table(Table& table, Binding& binding, QString empty_text, QWidget* parent = nullptr);
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    void set_up_columns();
+    void show_changes();
+    void report_selection();
+    void sort_by(int column);
+    void copy_selection() const;
+    std::vector<int> selected_row_numbers() const;
+
+    Table& table_;
+    Table_Model* model_;
+    QString empty_text_;
+    int scrolls_ = 0;
+};
+
+}  // namespace velk

@@ -1,0 +1,74 @@
+#include "shell/text_label.h"
+
+#include <QHelpEvent>
+#include <QPainter>
+#include <QStyle>
+#include <QToolTip>
+#include <algorithm>
+
+namespace velk {
+
+QString plain_tool_tip(const QString& text) {
+    return Qt::mightBeRichText(text) ? text.toHtmlEscaped() : text;
+}
+
+Text_Label::Text_Label(QWidget* parent) : QLabel(parent) {
+    setTextFormat(Qt::PlainText);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+}
+
+void Text_Label::show_text(const QString& text, const QString& tool_tip) {
+    setToolTip(plain_tool_tip(tool_tip));
+    if (text != this->text()) setText(text);
+}
+
+void Text_Label::set_room(int least, int most) {
+    least_ = least;
+    most_ = most;
+    updateGeometry();
+}
+
+QString Text_Label::line() const {
+    QString one_line = text();
+    for (QChar& character : one_line)
+        if (character.category() == QChar::Other_Control || character == QChar::LineSeparator ||
+            character == QChar::ParagraphSeparator)
+            character = u' ';
+    return one_line;
+}
+
+int Text_Label::width_of(int characters) const {
+    return fontMetrics().averageCharWidth() * characters;
+}
+
+QSize Text_Label::sizeHint() const {
+    const int text_width = fontMetrics().horizontalAdvance(line()) + 2;
+    const int most = most_ > 0 ? width_of(most_) : text_width;
+    return {std::clamp(text_width, std::min(width_of(least_), most), most),
+            fontMetrics().height()};
+}
+
+QSize Text_Label::minimumSizeHint() const {
+    return {width_of(least_), fontMetrics().height()};
+}
+
+void Text_Label::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const QString whole = line();
+    const bool right_to_left = whole.isRightToLeft();
+    painter.setLayoutDirection(right_to_left ? Qt::RightToLeft : Qt::LeftToRight);
+    painter.setPen(palette().color(foregroundRole()));
+    const QString shown = fontMetrics().elidedText(whole, Qt::ElideRight, width());
+    painter.drawText(rect(), static_cast<int>(alignment() | Qt::AlignAbsolute) | Qt::TextSingleLine,
+                     shown);
+}
+
+bool Text_Label::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip) return QLabel::event(event);
+    const bool short_of_room = fontMetrics().horizontalAdvance(line()) > width();
+    const QString tip = toolTip().isEmpty() && short_of_room ? plain_tool_tip(text()) : toolTip();
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), tip, this);
+    return true;
+}
+
+}  // namespace velk

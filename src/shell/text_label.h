@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QLabel>
+
+namespace velk {
+
+/// A line of plain text from anywhere: what has no room ends in an ellipsis and is told in full by
+/// the tool tip, and a right-to-left text is set from its own side. Its accessible name is the
+/// whole text.
+class Text_Label : public QLabel {
+    Q_OBJECT
+
+  public:
+    explicit Text_Label(QWidget* parent = nullptr);
+
+    /// The text, and a tool tip of its own that stands in for that of a shortened text. No markup
+    /// in either.
+    void show_text(const QString& text, const QString& tool_tip = {});
+    /// The room the label asks for at least and at most, in average characters.
+    void set_room(int least, int most);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    bool event(QEvent* event) override;
+
+  private:
+    QString line() const;
+    int width_of(int characters) const;
+
+    int least_ = 4;
+    int most_ = 0;  // 0: as much as the text takes
+};
+
+/// `text` as a tool tip that is never taken for markup.
+QString plain_tool_tip(const QString& text);
+
+}  // namespace velk

@@ -1,0 +1,136 @@
+// The two pages for a phone that is not reached: what is wrong in one sentence, then the next
+// steps.
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QScrollArea>
+#include <vector>
+
+#include "session/views.h"
+#include "shell/look.h"
+#include "shell/pages.h"
+#include "shell/picture_view.h"
+
+namespace velk {
+
+namespace {
+
+constexpr QSize picture_size{150, 217};
+constexpr int badge_size = 26;
+
+using Steps = std::vector<const char*>;
+
+const Steps steps_to_allow = {
+    "Unlock the phone and look at its screen: it asks “Allow USB debugging?”.",
+    "Tick “Always allow from this computer”, so that it asks only once, and tap OK or Allow.",
+    "Nothing there? Pull the cable out and plug it in again. If it still does not ask, open the "
+    "developer options, tap “Revoke USB debugging authorizations”, and plug in once more.",
+    "Then press Refresh.",
+};
+
+const Steps steps_to_debugging = {
+    "Connect the phone with a USB cable and unlock its screen.",
+    "Switch on USB debugging on the phone. Where it is depends on the Android version:\n"
+    "• 8 and later: Settings › System › About phone: tap Build number seven times, then "
+    "Settings › System › Developer options › USB debugging.\n"
+    "• 4.2 to 7: Settings › About phone: tap Build number seven times, then Settings › "
+    "Developer options › USB debugging.\n"
+    "• 4.0 and 4.1: Settings › Developer options › USB debugging.\n"
+    "• 2.3 to 3.x: Settings › Applications › Development › USB debugging.",
+    "If it is on already, try another USB cable (some only charge) and another port, best one of "
+    "the computer's own.",
+    "On Linux your account needs permission to use the phone. Debian and Ubuntu bring it with a "
+    "package:\n"
+    "sudo apt install android-sdk-platform-tools-common\n"
+    "sudo usermod -aG plugdev $USER\n"
+    "Log out and in again, and plug the phone in once more.",
+    "Then press Refresh.",
+};
+
+QLabel* text_of(const QString& text) {
+    auto* const label = new QLabel(text);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    // Commands are there to be copied.
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    return label;
+}
+
+QLayout* numbered(int number, const char* text) {
+    auto* const row = new QHBoxLayout;
+    set_tight(row, 12);
+    auto* const badge = new QLabel(QString::number(number));
+    badge->setProperty("badge", true);
+    badge->setAlignment(Qt::AlignCenter);
+    badge->setFixedSize(badge_size, badge_size);
+    row->addWidget(badge, 0, Qt::AlignTop);
+    auto* const words = text_of(QString::fromUtf8(text));
+    words->setContentsMargins(0, 4, 0, 0);
+    row->addWidget(words, 1);
+    return row;
+}
+
+QWidget* scrolled(QLayout* layout) {
+    auto* const inside = new QWidget;
+    inside->setObjectName(QStringLiteral("trouble_text"));
+    inside->setLayout(layout);
+    auto* const area = new QScrollArea;
+    area->setObjectName(QStringLiteral("trouble_scroll"));
+    area->setWidgetResizable(true);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setWidget(inside);
+    area->setAccessibleName(QStringLiteral("What to do"));
+    return area;
+}
+
+QWidget* steps_beside_picture(const Steps& steps, const char* picture) {
+    auto* const numbers = new QVBoxLayout;
+    set_tight(numbers, space_between);
+    int number = 0;
+    for (const char* const step : steps) numbers->addLayout(numbered(++number, step));
+    numbers->addStretch();
+    auto* const drawing = new Picture_View(picture_size);
+    drawing->show_picture(QString::fromLatin1(picture));
+    auto* const row = new QHBoxLayout;
+    set_tight(row, 2 * large_space);
+    row->addStretch(1);
+    row->addWidget(drawing, 0, Qt::AlignTop);
+    row->addLayout(numbers, 8);
+    row->addStretch(1);
+    return scrolled(row);
+}
+
+/// The sentence and the button stay in sight; the steps scroll when the window is small.
+QWidget* trouble_page(QLabel* sentence, QPushButton* refresh, QWidget* steps) {
+    auto* const page = new QWidget;
+    refresh->setObjectName(QStringLiteral("OnBT_Refresh"));
+    sentence->setFont(scaled_font(1.45, true));
+    auto* const top = new QHBoxLayout;
+    set_tight(top, large_space);
+    top->addWidget(sentence, 1);
+    top->addWidget(refresh, 0, Qt::AlignVCenter);
+    auto* const column = new QVBoxLayout(page);
+    column->setContentsMargins(2 * large_space, large_space, 2 * large_space, space_between);
+    column->setSpacing(large_space);
+    column->addLayout(top);
+    column->addWidget(steps, 1);
+    return page;
+}
+
+}  // namespace
+
+QWidget* allow_pc_page(View_AllowPCConnect& view, const Window_Parts& parts) {
+    auto* const sentence = new QLabel;
+    bind_text(parts.binding, view.m_LB_Tips, sentence);
+    return trouble_page(sentence, refresh_button(parts, [&view] { view.OnBT_Refresh(); }),
+                        steps_beside_picture(steps_to_allow, "allow_pc"));
+}
+
+QWidget* usb_debugging_page(View_SettingPhoneUSB& view, const Window_Parts& parts) {
+    auto* const sentence =
+        text_of(QStringLiteral("No phone was found that this computer may talk to."));
+    return trouble_page(sentence, refresh_button(parts, [&view] { view.OnBT_Refresh(); }),
+                        steps_beside_picture(steps_to_debugging, "usb_debugging"));
+}
+
+}  // namespace velk

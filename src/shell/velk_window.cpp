@@ -1,0 +1,107 @@
+#include "shell/velk_window.h"
+
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QTimer>
+#include <utility>
+
+#include "session/main_document.h"
+#include "shell/busy_spinner.h"
+#include "shell/content_stack.h"
+#include "shell/device_strip.h"
+#include "shell/qt_desktop.h"
+#include "shell/summary_page.h"
+#include "shell/text_label.h"
+#include "shell/toolbar.h"
+
+namespace velk {
+
+namespace {
+
+constexpr QSize least_size{860, 560};
+constexpr QSize first_size{1180, 760};
+
+}  // namespace
+
+Velk_Window::Velk_Window(MainDocument& document, Qt_Desktop& desktop)
+    : document_(document), desktop_(desktop) {
+    setObjectName(QStringLiteral("Velk_Window"));
+    setMinimumSize(least_size);
+    resize(first_size);
+    build();
+    binding_.bind(document.window_title, this,
+                  [this] { setWindowTitle(shown(document_.window_title.text())); });
+    desktop.set_window(this);
+    connect(&desktop, &Qt_Desktop::turn_ended, &guards_, &Guards::look_again);
+    content_->on_new_page([this] { set_tab_order(); });
+    document.windowControllerDidLoadNib();
+    bring_up_to_date();
+    set_tab_order();
+}
+
+void Velk_Window::build() {
+    const Window_Parts parts{document_, binding_, guards_};
+    content_ = new Content_Stack(parts);
+    auto* const toolbar = new Toolbar(parts);
+    auto* const strip = new Device_Strip(parts);
+    auto* const summary = new Summary_Page(parts);
+    auto* const main_area = new QHBoxLayout;
+    set_tight(main_area, 0);
+    main_area->addWidget(content_, 1);
+    main_area->addWidget(summary, 1);
+    auto* const column = new QVBoxLayout(this);
+    set_tight(column, 0);
+    column->addWidget(toolbar);
+    column->addWidget(strip);
+    column->addLayout(main_area, 1);
+    column->addWidget(status_strip());
+}
+
+QWidget* Velk_Window::status_strip() {
+    auto* const strip = new QWidget(this);
+    strip->setObjectName(QStringLiteral("status_strip"));
+    strip->setAttribute(Qt::WA_StyledBackground);
+    auto* const row = new QHBoxLayout(strip);
+    row->setContentsMargins(space_between, 6, space_between, 6);
+    row->setSpacing(small_space);
+    auto* const status = new Text_Label(strip);
+    status->setAccessibleDescription(QStringLiteral("Status"));
+    auto* const spinner = new Busy_Spinner(strip);
+    auto* const busy = new Text_Label(strip);
+    busy->set_room(0, 48);
+    make_quiet(busy);
+    row->addWidget(status, 1);
+    row->addWidget(spinner);
+    row->addWidget(busy);
+    strip->setMinimumHeight(30);
+    Label& waits = document_.busy.m_LB_Busy;
+    bind_label(binding_, document_.m_LB_ps, status);
+    bind_label(binding_, waits, busy);
+    binding_.bind(waits, spinner, [&waits, spinner] { spinner->set_busy(!waits.text().empty()); });
+    return strip;
+}
+
+void Velk_Window::set_tab_order() {
+    QWidget* before = nullptr;
+    const QWidget* const parts[] = {findChild<Toolbar*>(), content_->currentWidget(),
+                                    findChild<Summary_Page*>()};
+    for (const QWidget* const part : parts) {
+        if (!part) continue;
+        for (QWidget* const control : part->findChildren<QWidget*>()) {
+            if (!(control->focusPolicy() & Qt::TabFocus)) continue;
+            if (before) setTabOrder(before, control);
+            before = control;
+        }
+    }
+}
+
+void Velk_Window::closeEvent(QCloseEvent* event) {
+    event->accept();
+    if (std::exchange(closed_, true)) return;
+    hide();
+    desktop_.drop_alerts();
+    // The screen learns that the window is gone before the document waits for the phone.
+    QTimer::singleShot(0, this, [this] { document_.windowWillClose(); });
+}
+
+}  // namespace velk

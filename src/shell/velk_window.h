@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QWidget>
+
+#include "shell/widgets.h"
+
+namespace velk {
+
+class Content_Stack;
+class Qt_Desktop;
+
+/// The main window: toolbar, the line about the phone, the content box beside the summary, and the
+/// status line. It shows the document's outlets and calls its handlers; it decides nothing.
+class Velk_Window : public QWidget {
+    Q_OBJECT
+
+  public:
+    /// Both must outlive the window.
+    Velk_Window(MainDocument& document, Qt_Desktop& desktop);
+
+    /// Shows at once what otherwise shows at the end of the turn.
+    void bring_up_to_date() { binding_.flush(); }
+
+  protected:
+    /// Goes from the screen at once; the document then ends the program.
+    void closeEvent(QCloseEvent* event) override;
+
+  private:
+    void build();
+    QWidget* status_strip();
+    /// The Tab key goes through the window as the eye does, also where pages came later.
+    void set_tab_order();
+
+    MainDocument& document_;
+    Qt_Desktop& desktop_;
+    Binding binding_;
+    Guards guards_;
+    Content_Stack* content_ = nullptr;
+    bool closed_ = false;
+};
+
+}  // namespace velk

@@ -1,0 +1,97 @@
+#include "shell/widgets.h"
+
+#include <QBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <algorithm>
+#include <utility>
+
+#include "session/main_document.h"
+#include "shell/level_gauge.h"
+#include "shell/look.h"
+#include "shell/picture_view.h"
+#include "shell/pictures.h"
+#include "shell/text_label.h"
+#include "ui/program_wide.h"
+
+namespace velk {
+
+namespace {
+
+/// What all kinds have in common: the name, and being there or not.
+template <class Outlet_Type, class Widget, class Show>
+void bind_widget(Binding& binding, Outlet_Type& outlet, Widget* widget, Show show) {
+    widget->setObjectName(shown(outlet.name()));
+    binding.bind(outlet, widget, [&outlet, widget, show] {
+        show(outlet, widget);
+        // A widget that no layout holds yet would open as a window of its own.
+        if (outlet.hidden() || widget->parentWidget()) widget->setHidden(outlet.hidden());
+    });
+}
+
+}  // namespace
+
+QString shown(const std::string& text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+void bind_label(Binding& binding, Label& outlet, Text_Label* label) {
+    bind_widget(binding, outlet, label, [](const Label& from, Text_Label* to) {
+        to->show_text(shown(from.text()), shown(from.tool_tip()));
+    });
+}
+
+void bind_text(Binding& binding, Label& outlet, QLabel* label) {
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    bind_widget(binding, outlet, label, [](const Label& from, QLabel* to) {
+        to->setText(shown(from.text()));
+        to->setToolTip(plain_tool_tip(shown(from.tool_tip())));
+    });
+}
+
+void bind_button(Binding& binding, Button& outlet, QAbstractButton* button) {
+    bind_widget(binding, outlet, button, [](const Button& from, QAbstractButton* to) {
+        // A "&" of the program's is no mark of a shortcut.
+        to->setText(shown(from.title()).replace(u'&', QStringLiteral("&&")));
+    });
+}
+
+void bind_gauge(Binding& binding, Level_Indicator& outlet, Level_Gauge* gauge) {
+    bind_widget(binding, outlet, gauge, [](const Level_Indicator& from, Level_Gauge* to) {
+        to->setValue(std::clamp(from.value(), 0, from.maximum()));
+    });
+}
+
+void bind_image(Binding& binding, Image& outlet, Picture_View* image) {
+    bind_widget(binding, outlet, image, [](const Image& from, Picture_View* to) {
+        to->show_picture(shown(from.picture()));
+    });
+}
+
+void make_quiet(QLabel* label) {
+    label->setProperty("quiet", true);
+}
+
+QLabel* quiet_caption(const QString& text) {
+    auto* const label = new QLabel(text);
+    make_quiet(label);
+    label->setFont(scaled_font(0.85));
+    return label;
+}
+
+QPushButton* refresh_button(const Window_Parts& parts, std::function<void()> run) {
+    auto* const button = new QPushButton(QStringLiteral("Refresh"));
+    button->setProperty("primary", true);
+    button->setIcon(themed_icon(QStringLiteral("refresh"), true));
+    button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    parts.guards.connect_button(button, &g_can_click_refresh, std::move(run));
+    return button;
+}
+
+void set_tight(QBoxLayout* layout, int spacing) {
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(spacing);
+}
+
+}  // namespace velk

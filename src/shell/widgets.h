@@ -1,0 +1,59 @@
+// How each kind of outlet is shown, and the few pieces that every page is built of.
+#pragma once
+
+#include <QString>
+#include <functional>
+#include <string>
+
+#include "shell/binding.h"
+#include "shell/guards.h"
+#include "ui/outlets.h"
+
+class QAbstractButton;
+class QBoxLayout;
+class QLabel;
+class QPushButton;
+class QWidget;
+
+namespace velk {
+
+class Level_Gauge;
+class MainDocument;
+class Picture_View;
+class Text_Label;
+
+/// What every piece of the window is built with.
+struct Window_Parts {
+    MainDocument& document;
+    Binding& binding;
+    Guards& guards;
+};
+
+// Free distances between things, in pixels.
+inline constexpr int small_space = 8;
+inline constexpr int space_between = 16;
+inline constexpr int large_space = 24;
+
+/// UTF-8, or whatever bytes there are: what is no text shows as a replacement character.
+QString shown(const std::string& text);
+
+// Each keeps the widget up to date with its outlet, and names it after the outlet.
+void bind_label(Binding& binding, Label& outlet, Text_Label* label);
+/// A text that may take several lines.
+void bind_text(Binding& binding, Label& outlet, QLabel* label);
+void bind_button(Binding& binding, Button& outlet, QAbstractButton* button);
+void bind_gauge(Binding& binding, Level_Indicator& outlet, Level_Gauge* gauge);
+void bind_image(Binding& binding, Image& outlet, Picture_View* image);
+
+/// A caption that never changes: small and quiet.
+QLabel* quiet_caption(const QString& text);
+/// Marks a label as less important than what stands beside it.
+void make_quiet(QLabel* label);
+
+/// A Refresh button as every page of the connection has one; disabled during an attempt.
+QPushButton* refresh_button(const Window_Parts& parts, std::function<void()> run);
+
+/// No margins, this much between the items.
+void set_tight(QBoxLayout* layout, int spacing);
+
+}  // namespace velk
