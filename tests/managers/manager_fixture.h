@@ -1,0 +1,39 @@
+// A manager without a window and without a session: an agent, and a main window that only records.
+#pragma once
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "support/agent_double.h"
+#include "support/outlet_recorder.h"
+#include "support/test_desktop.h"
+#include "ui/busy_line.h"
+#include "ui/main_window.h"
+#include "ui/program_wide.h"
+
+namespace velk {
+
+class Recording_Window : public Main_Window {
+  public:
+    explicit Recording_Window(Outlet_Recorder& recorder) : recorder_(recorder) {}
+
+    Desktop& desktop() override { return test_desktop; }
+    Busy_Line& busy_line() override { return busy; }
+    void set_contacts_title(std::string title) override {
+        test_desktop.perform([this, title] { recorder_.note("contacts title: " + title); });
+    }
+    void set_BT_Caption_White() override {
+        test_desktop.perform([this] { recorder_.note("captions white"); });
+    }
+    void show_message(const std::string& text) override {
+        test_desktop.perform([this, text] { recorder_.note("message: " + text); });
+    }
+
+    Test_Desktop test_desktop;
+    Busy_Line busy;
+
+  private:
+    Outlet_Recorder& recorder_;
+};
+
+}  // namespace velk

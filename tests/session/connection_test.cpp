@@ -1,0 +1,241 @@
+// Whole attempts: what the window shows, what the tool and the agent are asked, each in order.
+#include <algorithm>
+#include <chrono>
+
+#include "session/session_fixture.h"
+
+namespace velk {
+namespace {
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::Not;
+using testing::StartsWith;
+
+using Lines = std::vector<std::string>;
+
+/// The record without the lines that are the same in every attempt.
+Lines without_colours(const Lines& lines) {
+    Lines rest;
+    for (const std::string& line : lines)
+        if (line.find(" colour: ") == std::string::npos) rest.push_back(line);
+    return rest;
+}
+
+/// What a Refresh click shows before the worker's first line.
+const Lines lines_of_a_click = {
+    "m_LB_MobileNameBig hidden",
+    "m_BT_Refresh hidden",
+    "m_LB_Size_PhoneTotalFree hidden",
+    "m_LB_Size_StorageTotalFree hidden",
+    "m_LevelIndicator_Size_Phone hidden",
+    "m_LevelIndicator_Size_Storage hidden",
+    "m_LB_ps: Loading......",
+    "m_LB_ps: Loading ...",
+    "m_BT_SMS: SMS",
+    "m_BT_Contacts: Contacts",
+    "m_BT_Apps: Apps",
+    "m_BT_Music: Music",
+    "m_BT_Photo: Photo",
+    "m_BT_Video: Video",
+    "m_BT_Book: Book",
+    "m_Control_Box1 shown",
+    "m_Control_Box1 shown",
+    "m_Control_Box1: nothing",
+    "m_Control_Box1: View_Start",
+    "m_LB_ps: ",
+    "m_LB_ps: Running android tool...",
+};
+
+/// What follows the click, without colours.
+Lines behind_the_click(const Lines& recorded) {
+    Lines lines = without_colours(recorded);
+    EXPECT_GE(lines.size(), lines_of_a_click.size());
+    const auto end = lines.begin() +
+                     static_cast<std::ptrdiff_t>(std::min(lines.size(), lines_of_a_click.size()));
+    EXPECT_EQ(Lines(lines.begin(), end), lines_of_a_click);
+    lines.erase(lines.begin(), end);
+    return lines;
+}
+
+TEST_F(Session, shows_a_successful_attempt_in_the_order_it_happens) {
+    phone_is_fine();
+    refresh();
+    EXPECT_THAT(
+        behind_the_click(recorder.lines()),
+        ElementsAre(
+            "m_LB_Connected: Connected!", "m_LB_SerialNumber: R58 M",
+            "m_LB_ps: Launching the application on your phone...",
+            "m_LB_ps: Start communicating ...",
+            "m_LB_ps: Retrieving mobile phone basic information.", "m_LB_Battery: 85%",
+            "m_Progress_Battery: 4", "m_LB_Size_PhoneTotal: 2.86MB",
+            "m_LB_Size_PhoneTotal tool tip: 3,000,000 bytes", "m_LB_Size_PhoneTotalFree: 976.56KB",
+            "m_LB_Size_PhoneTotalFree tool tip: 1,000,000 bytes",
+            "m_LB_Size_StorageTotal: 672.37MB",
+            "m_LB_Size_StorageTotal tool tip: 5,000,000,000 bytes",
+            "m_LB_Size_StorageTotalFree: 1.00GB",
+            "m_LB_Size_StorageTotalFree tool tip: 1,073,741,825 bytes",
+            "m_LevelIndicator_Size_Phone: 75", "m_LevelIndicator_Size_Storage: 39",
+            "m_LB_USBConnect: Connected via USB", "m_LB_AndroidVersion: 4.4.2",
+            "m_LB_MobileNameBig: Demo", "m_LB_MobileName: Demo", "m_BT_Contacts: Contacts(12x)",
+            "m_BT_SMS: SMS(12)", "m_BT_Apps: Apps(30)", "m_BT_Photo: Photos(40)",
+            "m_BT_Music: Music(60)", "m_BT_Video: Videos(8)", "m_BT_Book: Books(12)",
+            "m_Control_Box1 shown", "m_Control_Box1 shown", "m_Control_Box1: nothing",
+            "m_Control_Box1: View_Start", "m_LB_ps: Demo  is connected.",
+            "m_LB_MobileNameBig shown", "m_BT_Refresh shown", "m_LB_Size_PhoneTotalFree shown",
+            "m_LB_Size_StorageTotalFree shown", "m_LevelIndicator_Size_Phone shown",
+            "m_LevelIndicator_Size_Storage shown"));
+    EXPECT_EQ(g_connected_adb, 1);
+    EXPECT_EQ(g_device_serial_number, "R58 M");
+    EXPECT_EQ(g_int_count_contacts, 12);
+    EXPECT_EQ(g_int_count_sms, 12);
+    EXPECT_EQ(document.busy.m_LB_Busy.text(), "");
+}
+
+TEST_F(Session, asks_the_tool_and_the_agent_for_each_step_once_and_in_order) {
+    phone_is_fine();
+    refresh();
+    EXPECT_THAT(
+        adb.call_lines(),
+        ElementsAre(
+            "devices", "-s R58 M uninstall tarn.phone.android",
+            "-s R58 M uninstall prell.phone.android", "-s R58 M uninstall dusk.phone.android",
+            "-s R58 M uninstall velk.phone.android", "-s R58 M uninstall quen.phone.android",
+            "-s R58 M uninstall fenn.phone.android",
+            "-s R58 M install -r " + adb.directory() + "/velk.phone.android.PhoneConnActivity.apk",
+            "-s R58 M shell am start -a android.intent.action.Main -n "
+            "velk.phone.android/.PhoneConnActivity",
+            "-s R58 M shell am broadcast -a openUSBConnect", "-s R58 M forward tcp:12300 tcp:12186",
+            "-s R58 M forward tcp:12301 tcp:12176", "-s R58 M forward tcp:12302 tcp:12166",
+            "-s R58 M forward tcp:12303 tcp:12156"));
+    EXPECT_THAT(agent.codes(), ElementsAre("38", "81", "85", "79", "83", "75", "77", "65", "66",
+                                           "67", "68", "70", "72", "74", "114"));
+}
+
+TEST_F(Session, tells_each_kind_of_trouble_in_its_own_order) {
+    struct Case {
+        const char* devices;
+        Lines shown;
+        const char* view;
+    };
+    const Lines captions_again = {"m_BT_SMS: SMS", "m_BT_Contacts: Contacts"};
+    const Lines hidden_by_the_view = {
+        "m_LB_MobileNameBig hidden",          "m_BT_Refresh hidden",
+        "m_LB_Size_PhoneTotalFree hidden",    "m_LB_Size_StorageTotalFree hidden",
+        "m_LevelIndicator_Size_Phone hidden", "m_LevelIndicator_Size_Storage hidden"};
+    const auto trouble_view = [&](const Lines& labels, const std::string& name) {
+        Lines lines = labels;
+        lines.insert(lines.end(), captions_again.begin(), captions_again.end());
+        lines.push_back("m_Control_Box1 shown");
+        lines.insert(lines.end(), hidden_by_the_view.begin(), hidden_by_the_view.end());
+        for (const std::string last : {" shown", ": nothing"})
+            lines.push_back("m_Control_Box1" + last);
+        lines.push_back("m_Control_Box1: " + name);
+        return lines;
+    };
+    const Lines not_usable = {"m_LB_Connected: There is no device!",
+                              "m_LB_SerialNumber: ", "m_LB_ps: ", "m_LB_ps: "};
+    const std::vector<Case> cases = {
+        {"", {}, "View_Start"},
+        {"error: cannot connect to daemon\n", {}, "View_Start"},
+        {"List of devices attached \n\n",
+         trouble_view({"m_LB_ps: ", "m_LB_Connected: There is no device!", "m_LB_SerialNumber: "},
+                      "View_SettingPhoneUSB"),
+         "View_SettingPhoneUSB"},
+        {"List of devices attached \nR58M\toffline\n\n", not_usable, "View_Start"},
+        {"List of devices attached \nR58M\tunauthorized\n\n",
+         trouble_view(not_usable, "View_AllowPCConnect"), "View_AllowPCConnect"},
+    };
+    for (const Case& trouble : cases) {
+        SCOPED_TRACE(trouble.devices);
+        adb.answer("devices", trouble.devices);
+        recorder.clear();
+        refresh();
+        EXPECT_EQ(behind_the_click(recorder.lines()), trouble.shown);
+        EXPECT_EQ(view_in_the_box(), trouble.view);
+        EXPECT_EQ(g_connected_adb, 0);
+    }
+    EXPECT_THAT(adb.call_lines(), Not(Contains(StartsWith("-s"))));
+    EXPECT_EQ(g_kill_adb_server_count, 1);
+}
+
+TEST_F(Session, loads_a_trouble_view_once_so_the_summary_is_hidden_by_it_only_the_first_time) {
+    adb.answer("devices", "List of devices attached \n\n");
+    refresh();
+    document.hidden_some(false);
+    document.show_setting_phone_usb_view();
+    EXPECT_FALSE(document.m_BT_Refresh.hidden());
+}
+
+TEST_F(Session, starts_no_second_attempt_while_one_runs_and_queues_none) {
+    phone_is_fine();
+    adb.answer("devices", {.behaviour = Fake_Adb::Behaviour::hangs});
+    document.OnBT_Refresh();
+    ASSERT_TRUE(desktop.pump_until([this] { return adb.is_hanging(); }));
+    recorder.clear();
+    g_table_contacts_need_refresh = 0;
+
+    document.OnBT_Refresh();
+    desktop.pump();
+    EXPECT_THAT(recorder.lines(), IsEmpty());
+    EXPECT_EQ(g_table_contacts_need_refresh, 0);
+
+    // An arrival resets the screen all the same, and starts nothing.
+    document.add_device("Phone");
+    desktop.pump();
+    EXPECT_THAT(recorder.lines(), Contains("m_LB_ps: Phone  is detected."));
+    EXPECT_THAT(recorder.lines(), Contains("m_Control_Box1: View_Start"));
+    EXPECT_THAT(adb.call_lines(), ElementsAre("devices"));
+}
+
+TEST_F(Session, returns_to_a_screen_without_phone_when_it_is_pulled_out) {
+    phone_is_fine();
+    refresh();
+    recorder.clear();
+    document.remove_device("Phone");
+    EXPECT_EQ(recorder.lines().front(), "m_LB_ps: Remove one device, It is called : Phone");
+    EXPECT_TRUE(document.m_BT_Refresh.hidden());
+    EXPECT_EQ(view_in_the_box(), "View_Start");
+    EXPECT_EQ(g_connected_adb, 0);
+    EXPECT_EQ(document.m_device_checked, 0);
+}
+
+TEST_F(Session, shows_empty_values_when_the_agent_cannot_be_reached) {
+    adb.answer("devices", usable_list);
+    refresh();  // every reply is empty
+    EXPECT_EQ(document.m_LB_Battery.text(), "%");
+    EXPECT_EQ(document.m_Progress_Battery.value(), 1);
+    EXPECT_EQ(document.m_LB_Size_PhoneTotal.text(), "0B");
+    EXPECT_EQ(document.m_LB_Size_PhoneTotal.tool_tip(), "");
+    EXPECT_EQ(document.m_LevelIndicator_Size_Phone.value(), -2147483647 - 1);
+    EXPECT_EQ(document.m_BT_Contacts.title(), "Contacts()");
+    EXPECT_EQ(document.m_BT_SMS.title(), "SMS(0)");
+}
+
+TEST_F(Session, says_what_it_waits_for_beside_the_status_line_when_the_agent_is_silent) {
+    phone_is_fine();
+    agent.be_silent();
+    document.OnBT_Refresh();
+    ASSERT_TRUE(desktop.pump_until([this] { return !agent.requests().empty(); }));
+    ASSERT_TRUE(desktop.pump_until(
+        [this] { return document.busy.m_LB_Busy.text() == "Waiting for the phone: battery"; }));
+    EXPECT_EQ(document.m_LB_ps.text(), "Retrieving mobile phone basic information.");
+}
+
+TEST_F(Session, ends_the_program_within_two_seconds_of_a_silent_agent) {
+    phone_is_fine();
+    agent.be_silent();
+    document.OnBT_Refresh();
+    ASSERT_TRUE(desktop.pump_until([this] { return !agent.requests().empty(); }));
+    const auto closed = std::chrono::steady_clock::now();
+    document.windowWillClose();
+    EXPECT_LT(std::chrono::steady_clock::now() - closed, std::chrono::seconds(2));
+    EXPECT_TRUE(desktop.terminated());
+    EXPECT_EQ(Worker::running(), 0);
+    EXPECT_THAT(agent.codes(), Contains("90"));
+    Worker::allow_start();
+}
+
+}  // namespace
+}  // namespace velk

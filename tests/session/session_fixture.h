@@ -1,0 +1,90 @@
+// A whole session without a window: the document, a scripted adb beside it, an agent, and the
+// record of everything that the window would have shown, in order.
+#pragma once
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <map>
+
+#include "session/main_document.h"
+#include "support/agent_double.h"
+#include "support/fake_adb.h"
+#include "support/outlet_recorder.h"
+#include "support/test_desktop.h"
+#include "ui/program_wide.h"
+#include "ui/worker.h"
+
+namespace velk {
+
+class Session : public testing::Test {
+  protected:
+    static constexpr const char* usable_list = "List of devices attached \nR58 M\tdevice\n\n";
+
+    Session() {
+        desktop.make_sleeps_instant();
+        watch_everything();
+        document.windowControllerDidLoadNib();
+        recorder.clear();
+    }
+    ~Session() override { desktop.end_work(); }
+
+    /// Answers that let an attempt end well.
+    void phone_is_fine() {
+        adb.answer("devices", usable_list);
+        agent.reply_to(38, Agent_Double::battery(85));
+        const std::map<int, const char*> values = {
+            {81, "3000000"}, {85, "1000000"}, {79, "5000000000"}, {83, "1073741825"}, {75, "4.4.2"},
+            {77, "Demo"},    {65, "12x"},     {66, "12x"},        {67, "30"},         {68, "40"},
+            {70, "60"},      {72, "8"},       {74, "12"},         {114, "1.0"}};
+        for (const auto& [code, text] : values) agent.reply_to(code, Agent_Double::value(text));
+    }
+
+    void wait_for_the_attempt() {
+        desktop.pump_until([] { return Worker::running() == 0; });
+        desktop.pump();
+    }
+
+    /// Presses Refresh and waits for the end of the attempt.
+    void refresh() {
+        document.OnBT_Refresh();
+        wait_for_the_attempt();
+    }
+
+    std::string view_in_the_box() const {
+        const MainViewController* view = document.m_Control_Box1.view();
+        return view == nullptr ? "nothing" : view->name();
+    }
+
+    Fake_Adb adb;
+    Agent_Double agent;
+    Test_Desktop desktop;
+    Outlet_Recorder recorder;
+    MainDocument document{desktop, adb.directory()};
+
+  private:
+    void watch_everything() {
+        desktop.on_note = [this](const std::string& note) {
+            if (!note.starts_with("sleep")) recorder.note(note);
+        };
+        for (Label* label :
+             {&document.m_LB_ps, &document.m_LB_Connected, &document.m_LB_USBConnect,
+              &document.m_LB_SerialNumber, &document.m_LB_MobileName, &document.m_LB_AndroidVersion,
+              &document.m_LB_Battery, &document.m_LB_Size_PhoneTotal,
+              &document.m_LB_Size_StorageTotal, &document.m_LB_MobileNameBig,
+              &document.m_LB_Size_PhoneTotalFree, &document.m_LB_Size_StorageTotalFree})
+            recorder.watch(*label);
+        for (Button* button :
+             {&document.m_BT_MyAndroid, &document.m_BT_Contacts, &document.m_BT_SMS,
+              &document.m_BT_Apps, &document.m_BT_Music, &document.m_BT_Photo, &document.m_BT_Video,
+              &document.m_BT_Book, &document.m_BT_Refresh})
+            recorder.watch(*button);
+        for (Level_Indicator* gauge :
+             {&document.m_Progress_Battery, &document.m_LevelIndicator_Size_Phone,
+              &document.m_LevelIndicator_Size_Storage})
+            recorder.watch(*gauge);
+        recorder.watch(document.m_Control_Box1, [this] { return ": " + view_in_the_box(); });
+    }
+};
+
+}  // namespace velk
