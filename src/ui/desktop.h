@@ -80,7 +80,7 @@ class Desktop {
     virtual void terminate() = 0;
 
     /// Shuts the gate between workers and window, for good.
-    void close_gate() { queue_.close(); }
+    void close_gate();
 
   protected:
     /// Asks the event loop to call run_turn() soon. Any thread.
@@ -88,9 +88,12 @@ class Desktop {
     void run_turn() { queue_.run_turn(); }
 
   private:
+    class Promise;
+
     void run_and_wait(Closure closure);
 
     Ordered_Queue queue_;
+    std::vector<std::weak_ptr<Promise>> open_alerts_;  // that workers wait for
 };
 
 }  // namespace velk

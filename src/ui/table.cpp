@@ -1,6 +1,7 @@
 #include "ui/table.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstdlib>
 #include <cstring>
 #include <numeric>
@@ -23,13 +24,18 @@ std::vector<std::string> collation_keys(const std::vector<std::string>& cells) {
     return keys;
 }
 
+/// "nan" is a number to strtod, but has no place in an order.
+double number_or_zero(double number) {
+    return std::isnan(number) ? 0 : number;
+}
+
 double leading_number(const std::string& cell) {
-    return std::strtod(cell.c_str(), nullptr);
+    return number_or_zero(std::strtod(cell.c_str(), nullptr));
 }
 
 double bytes_of_size(const std::string& cell) {
     char* unit = nullptr;
-    const double number = std::strtod(cell.c_str(), &unit);
+    const double number = number_or_zero(std::strtod(cell.c_str(), &unit));
     while (*unit == ' ') ++unit;
     switch (*unit) {
         case 'K':

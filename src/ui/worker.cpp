@@ -26,12 +26,13 @@ Running& all() {
     return *running;
 }
 
-void run(const std::string& name, const std::function<void()>& body,
+void run(const std::string& name, std::function<void()> body,
          std::list<Interruptor>::iterator own) {
     pthread_setname_np(pthread_self(), name.substr(0, 15).c_str());
     {
         const Interruptor::Use use(*own);
         body();
+        body = nullptr;  // what it owns goes before the worker counts as ended
     }
     Running& workers = all();
     const std::lock_guard lock(workers.mutex);
@@ -46,7 +47,7 @@ void Worker::start(const std::string& name, std::function<void()> body) {
     const std::lock_guard lock(workers.mutex);
     if (workers.refused) return;
     const auto own = workers.interruptors.emplace(workers.interruptors.end());
-    std::thread([name, body = std::move(body), own] { run(name, body, own); }).detach();
+    std::thread(run, name, std::move(body), own).detach();
 }
 
 int Worker::running() {
