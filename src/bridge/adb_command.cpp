@@ -1,5 +1,8 @@
 #include "bridge/adb_command.h"
 
+#include <utility>
+#include <vector>
+
 #include "base/text.h"
 #include "base/trace.h"
 #include "bridge/child_process.h"

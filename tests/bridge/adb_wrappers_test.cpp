@@ -21,50 +21,32 @@ class No_Window : public Desktop {
     void wake() override {}
 };
 
-class Adb_Wrappers_Test : public testing::Test {
-  protected:
-    Adb_Wrappers_Test() { g_adb_tool_file.clear(); }
+TEST(Adb_Wrappers, run_the_tool_beside_the_program_for_the_phone_in_use) {
+    No_Window desktop;
+    const Fake_Adb adb;
+    Adb_Wrappers session(desktop, adb.directory());
+    EXPECT_EQ(session.adb_devices(), "[g_adb_tool_file length<=0]");
+    EXPECT_TRUE(adb.calls().empty());
 
-    No_Window desktop_;
-    Fake_Adb adb_;
-    Adb_Wrappers session_{desktop_, adb_.directory()};
-};
-
-TEST_F(Adb_Wrappers_Test, run_no_tool_before_its_path_is_known) {
-    EXPECT_EQ(session_.adb_devices(), "[g_adb_tool_file length<=0]");
-    EXPECT_THAT(adb_.calls(), ElementsAre());
-
-    session_.get_adb_full_path();
-    EXPECT_EQ(g_adb_tool_file, adb_.directory() + "/adb");
-    adb_.answer("devices", "List of devices attached \n\n");
-    EXPECT_EQ(session_.adb_devices(), "List of devices attached \n\n");
-}
-
-TEST_F(Adb_Wrappers_Test, speak_to_the_phone_in_use) {
-    session_.get_adb_full_path();
-    session_.m_device_serial_number = "S1";
-    session_.adb_start();
-    session_.adb_kill_server();
-    EXPECT_EQ(session_.adb_uninstall_apk("a.b"), "[Success!] Uninstall APK:'a.b'.");
-    session_.adb_install_apk(session_.get_current_app_path() + "/" +
-                             session_.m_str_install_apk_file);
-    session_.adb_run_apk(session_.m_str_apk_name_run);
-    session_.adb_broadcast();
-    session_.adb_tcp_in_mobile_phone_all();
+    session.get_adb_full_path();
+    session.m_device_serial_number = "S1";
+    adb.answer("devices", "List of devices attached \n\n");
+    EXPECT_EQ(session.adb_devices(), "List of devices attached \n\n");
+    session.adb_start();
+    session.adb_kill_server();
+    EXPECT_EQ(session.adb_uninstall_apk("a.b"), "[Success!] Uninstall APK:'a.b'.");
+    session.adb_install_apk(session.get_current_app_path() + "/x.apk");
+    session.adb_run_apk("p/.A");
+    session.adb_broadcast();
+    session.adb_tcp_in_mobile_phone_all();
     EXPECT_THAT(
-        adb_.call_lines(),
-        ElementsAre(
-            "start-server", "kill-server", "-s S1 uninstall a.b",
-            "-s S1 install -r " + adb_.directory() + "/velk.phone.android.PhoneConnActivity.apk",
-            "-s S1 shell am start -a android.intent.action.Main -n "
-            "velk.phone.android/.PhoneConnActivity",
-            "-s S1 shell am broadcast -a openUSBConnect", "-s S1 forward tcp:12300 tcp:12186",
-            "-s S1 forward tcp:12301 tcp:12176", "-s S1 forward tcp:12302 tcp:12166",
-            "-s S1 forward tcp:12303 tcp:12156"));
-}
-
-TEST(Executable_Directory, is_where_the_running_program_stands) {
-    EXPECT_TRUE(std::filesystem::exists(executable_directory() + "/bridge_test"));
+        adb.call_lines(),
+        ElementsAre("devices", "start-server", "kill-server", "-s S1 uninstall a.b",
+                    "-s S1 install -r " + adb.directory() + "/x.apk",
+                    "-s S1 shell am start -a android.intent.action.Main -n p/.A",
+                    "-s S1 shell am broadcast -a openUSBConnect",
+                    "-s S1 forward tcp:12300 tcp:12186", "-s S1 forward tcp:12301 tcp:12176",
+                    "-s S1 forward tcp:12302 tcp:12166", "-s S1 forward tcp:12303 tcp:12156"));
 }
 
 }  // namespace

@@ -11,122 +11,81 @@
 namespace velk {
 namespace {
 
-using testing::ElementsAreArray;
-
-class Launcher : public testing::Test {
-  protected:
-    Fake_Adb adb_;
-    Environment_Setting chosen_{"VELK_ADB", adb_.tool()};
-};
+using enum Fake_Adb::Behaviour;
 
 struct Errand {
-    std::vector<std::string> words;
+    Words words;
     std::vector<std::pair<std::string, Fake_Adb::Answer>> answers;
     Launched expected;
-    std::vector<std::string> calls;
+    Words calls;
 };
 
+const std::string list = "List of devices attached\nS1\tdevice\n\n";
+const std::string older_list = "List of devices attached \nS1\tdevice\n\n";
 const std::string gone = "error: device 'S1' not found\n";
 
 const Errand errands[] = {
-    {.words = {"devices", "-l"},
-     .answers = {{"devices", {.output = "List of devices attached\nS1\tdevice\n\n"}}},
-     .expected = {"List of devices attached \nS1\tdevice\n\n", "", 0},
-     .calls = {"devices -l"}},
-    {.words = {"-P", "5038", "devices"},
-     .answers = {{"devices", {.errors = "* cannot start server\n", .status = 1}}},
-     .expected = {"", "* cannot start server\n", 1},
-     .calls = {"-P 5038 devices"}},
-    {.words = {"-s", "S1", "pull", "/sdcard/a b.jpg", "/tmp/x"},
-     .answers = {{"pull", {.output = "/sdcard/a b.jpg: 1 file pulled.\n"}}},
-     .expected = {"", "/sdcard/a b.jpg: 1 file pulled.\n", 0},
-     .calls = {"-s S1 pull -a /sdcard/a b.jpg /tmp/x"}},
-    {.words = {"-s", "S1", "pull", "/sdcard/a.jpg", "/tmp/x"},
-     .answers = {{"pull", {.errors = "adb: error: no such file\n", .status = 1}}},
-     .expected = {"adb: error: no such file\n", "adb: error: no such file\n", 1},
-     .calls = {"-s S1 pull -a /sdcard/a.jpg /tmp/x"}},
-    {.words = {"-s", "S1", "push", "/m/a.mp3", "/sdcard/my music"},
-     .answers = {{"push", {.output = "1 file pushed.\n"}},
-                 {"shell", {.output = "noise\n", .errors = "noise\n", .status = 1}}},
-     .expected = {"1 file pushed.\n", "", 0},
-     .calls = {"-s S1 shell mkdir -p '/sdcard/my music'", "-s S1 push /m/a.mp3 /sdcard/my music"}},
-    {.words = {"-d", "push", "/m/a.mp3", "/sdcard/b.mp3"},
-     .answers = {{"push", {.output = "half\n", .errors = "storage is full\n", .status = 1}}},
-     .expected = {"half\nstorage is full\n", "storage is full\n", 1},
-     .calls = {"-d push /m/a.mp3 /sdcard/b.mp3"}},
-    {.words = {"-s", "S1", "uninstall", "a.b"},
-     .answers = {{"get-state", {.output = "device\n"}}, {"uninstall", {.output = "Success\n"}}},
-     .expected = {"Success\n", "", 0},
-     .calls = {"-s S1 get-state", "-s S1 uninstall a.b"}},
-    {.words = {"-s", "S1", "uninstall", "a.b"},
-     .answers = {{"get-state", {.errors = gone, .status = 1}},
-                 {"uninstall", {.behaviour = Fake_Adb::Behaviour::hangs}}},
-     .expected = {gone, gone, 1},
-     .calls = {"-s S1 get-state"}},
-    {.words = {"-s", "S1", "install", "-r", "/x.apk"},
-     .answers =
-         {{"install",
-           {.output = "Performing Push Install\n", .errors = "adb: failed\n", .status = 255}}},
-     .expected = {"Performing Push Install\nadb: failed\n", "adb: failed\n", 255},
-     .calls = {"-s S1 install -r /x.apk"}},
-    {.words = {"-s", "S1", "install", "-r", "/x.apk"},
-     .answers = {{"install", {.output = "Success\n", .errors = "a warning\n"}}},
-     .expected = {"Success\n", "a warning\n", 0},
-     .calls = {"-s S1 install -r /x.apk"}},
-    {.words = {"-s", "S1", "install", "-r", "/x.apk"},
-     .answers = {{"install", {.output = "half", .behaviour = Fake_Adb::Behaviour::crashes}}},
-     .expected = {"half", "", 128 + SIGABRT},
-     .calls = {"-s S1 install -r /x.apk"}},
-    {.words = {"-s", "S1", "forward", "tcp:1", "tcp:2"},
-     .answers = {{"forward", {.output = "\xC3(attached\n", .errors = "e\n", .status = 4}}},
-     .expected = {"\xC3(attached\n", "e\n", 4},
-     .calls = {"-s S1 forward tcp:1 tcp:2"}},
+    {{"-P", "5038", "devices"},
+     {{"devices", {list, "* started\n", 0, leaves_a_server}}},
+     {older_list, "* started\n", 0},
+     {"-P 5038 devices"}},
+    {{"-s", "push", "pull", "/a b", "/tmp/x"},
+     {{"pull", {"1 file pulled.\n"}}},
+     {"", "1 file pulled.\n", 0},
+     {"-s push pull -a /a b /tmp/x"}},
+    {{"pull", "/a", "/tmp/x"}, {{"pull", {"", gone, 1}}}, {gone, gone, 1}, {"pull -a /a /tmp/x"}},
+    {{"-d", "push", "/m/a.mp3", "/sdcard/it's me/"},
+     {{"push", {"1 file pushed.\n"}}, {"shell", {"noise\n", "noise\n", 1}}},
+     {"1 file pushed.\n", "", 0},
+     {"-d shell mkdir -p '/sdcard/it'\\''s me/'", "-d push /m/a.mp3 /sdcard/it's me/"}},
+    {{"push", "/m/a.mp3", "/v1.0/b.mp3"},
+     {{"push", {"half\n", gone, 1}}},
+     {"half\n" + gone, gone, 1},
+     {"push /m/a.mp3 /v1.0/b.mp3"}},
+    {{"-t", "4", "uninstall", "a.b"},
+     {{"get-state", {"device\n"}}, {"uninstall", {"Success\n"}}},
+     {"Success\n", "", 0},
+     {"-t 4 get-state", "-t 4 uninstall a.b"}},
+    {{"uninstall", "a.b"},
+     {{"get-state", {"", gone, 255}}, {"uninstall", {"", "", 0, hangs}}},
+     {gone, gone, 1},
+     {"get-state"}},
+    {{"install", "/x.apk"},
+     {{"install", {"half", gone, 0, crashes}}},
+     {"half" + gone, gone, 128 + SIGABRT},
+     {"install /x.apk"}},
+    {{"-P5038", "forward", "tcp:1", "tcp:2"},
+     {{"forward", {"\xC3(attached\n", "e\n", 4}}},
+     {"\xC3(attached\n", "e\n", 4},
+     {"-P5038 forward tcp:1 tcp:2"}},
 };
 
-TEST_F(Launcher, restores_the_older_habits_and_passes_on_the_rest) {
+TEST(Launcher, restores_the_older_habits_and_passes_on_the_rest) {
     for (const Errand& errand : errands) {
         const Fake_Adb adb;
-        const Environment_Setting chosen("VELK_ADB", adb.tool());
         for (const auto& [words, answer] : errand.answers) adb.answer(words, answer);
-        const Launched launched = launch(errand.words);
-        SCOPED_TRACE(testing::PrintToString(errand.words));
+        const Launched launched = launch({"VELK_ADB=" + adb.tool()}, errand.words);
+        SCOPED_TRACE(errand.calls.front());
         EXPECT_EQ(launched.output, errand.expected.output);
         EXPECT_EQ(launched.errors, errand.expected.errors);
         EXPECT_EQ(launched.status, errand.expected.status);
-        EXPECT_THAT(adb.call_lines(), ElementsAreArray(errand.calls));
+        EXPECT_EQ(adb.call_lines(), errand.calls);
     }
 }
 
-TEST_F(Launcher, does_not_wait_for_a_server_that_the_tool_leaves_behind) {
-    adb_.answer("devices", {.output = "List of devices attached\n",
-                            .behaviour = Fake_Adb::Behaviour::leaves_a_server});
-    EXPECT_EQ(launch({"devices"}).output, "List of devices attached \n");
-}
-
-TEST_F(Launcher, passes_its_input_on) {
-    const std::string tool = adb_.directory() + "/reader";
-    std::ofstream(tool) << "#!/bin/sh\ncat\n";
-    std::filesystem::permissions(tool, std::filesystem::perms::owner_all);
-    const Environment_Setting chosen("VELK_ADB", tool);
-    const std::string bytes("a\0b\n\xFF", 5);
-    EXPECT_EQ(launch({"shell", "cat"}, bytes).output, bytes);
-    EXPECT_EQ(launch({"install", "-"}, bytes).output, bytes);
-}
-
-TEST_F(Launcher, takes_the_tool_with_it_when_it_is_ended) {
+TEST(Launcher, takes_the_tool_with_it_when_it_is_ended) {
     for (const char* const command : {"devices", "push", "shell"}) {
-        adb_.answer(command, {.behaviour = Fake_Adb::Behaviour::hangs});
+        const Fake_Adb adb;
+        adb.answer(command, {.behaviour = hangs});
         Interruptor interruptor;
-        int status = 0;
         std::thread worker([&] {
             const Interruptor::Use use(interruptor);
-            status = run_child({.words = {VELK_LAUNCHER, command}}, [](std::string_view) {});
+            EXPECT_EQ(launch({"VELK_ADB=" + adb.tool()}, {command}).status, 128 + SIGTERM);
         });
-        while (!adb_.is_hanging()) std::this_thread::yield();
+        while (!adb.is_hanging()) std::this_thread::yield();
         interruptor.cancel();
         worker.join();
-        while (adb_.is_hanging()) std::this_thread::yield();
-        EXPECT_EQ(status, 128 + SIGTERM) << command;
+        while (adb.is_hanging()) std::this_thread::yield();
     }
 }
 
