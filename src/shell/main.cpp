@@ -30,7 +30,7 @@ int run(const velk::Options& options) {
     velk::Qt_Desktop desktop;
     velk::MainDocument document(desktop);
     velk::Velk_Window window(document, desktop);
-    const velk::Unix_Signals signals([&window] { window.close(); });
+    const velk::Unix_Signals ending([&window] { window.close(); });
     std::unique_ptr<velk::Tour> tour;
     window.show();
     if (!options.tour.empty())

@@ -61,10 +61,13 @@ Tour::Tour(MainDocument& document, Velk_Window& window, std::string folder)
     connect(qApp, &QCoreApplication::aboutToQuit, this, [this] {
         if (!finished_) fail("the window was closed");
     });
-    if (!QDir().mkpath(shown(folder_))) return fail("cannot make the folder " + folder_);
-    plan();
-    start_next();
-    timer_.start();
+    if (QDir().mkpath(shown(folder_))) {
+        plan();
+        timer_.start();
+        start_next();
+    } else {
+        fail("cannot make the folder " + folder_);
+    }
 }
 
 void Tour::plan() {

@@ -1,0 +1,109 @@
+#include "window_test.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QStyleHints>
+
+#include "ui/program_wide.h"
+#include "ui/worker.h"
+
+namespace velk {
+
+namespace {
+
+void fail_on_warnings(QtMsgType type, const QMessageLogContext&, const QString& text) {
+    if (type == QtWarningMsg || type == QtCriticalMsg || type == QtFatalMsg)
+        ADD_FAILURE() << "the toolkit warns: " << text.toStdString();
+}
+
+QPalette palette_of(const QColor& window, const QColor& base, const QColor& text) {
+    QPalette palette(window);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(role, text);
+    palette.setColor(QPalette::Base, base);
+    return palette;
+}
+
+}  // namespace
+
+QApplication& test_application() {
+    static int count = 1;
+    static char name[] = "shell_test";
+    static char* arguments[] = {name, nullptr};
+    static QApplication* const application = [] {
+        auto* const made = new QApplication(count, arguments);
+        new Look_Keeper;
+        qInstallMessageHandler(fail_on_warnings);
+        return made;
+    }();
+    return *application;
+}
+
+QPalette dark_palette() {
+    return palette_of(QColor(0x24, 0x27, 0x2c), QColor(0x1b, 0x1e, 0x22), QColor(0xe6, 0xe8, 0xea));
+}
+
+QPalette light_palette() {
+    return palette_of(QColor(0xf3, 0xf4, 0xf6), Qt::white, QColor(0x1c, 0x1f, 0x24));
+}
+
+bool wait_until(const std::function<bool()>& condition) {
+    return QTest::qWaitFor(condition, 10'000);
+}
+
+Open_Window::Open_Window() {
+    test_application();
+    Worker::allow_start();
+    document = std::make_unique<MainDocument>(desktop, "/nowhere");
+    window = std::make_unique<Velk_Window>(*document, desktop);
+    window->show();
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+}
+
+Open_Window::~Open_Window() {
+    desktop.drop_alerts();
+    desktop.close_gate();
+    EXPECT_TRUE(Worker::stop_all(std::chrono::seconds(10)));
+    g_connected_adb = 0;
+    g_can_click_refresh = g_can_click_contacts_load = g_can_click_loading_animation = 1;
+    window.reset();
+    document.reset();
+}
+
+void Open_Window::connect() {
+    g_connected_adb = 1;
+    g_table_contacts_need_refresh = 0;
+    document->hidden_some(false);
+    turn();
+}
+
+void Open_Window::fill(const std::string& phone_name) {
+    MainDocument& d = *document;
+    d.m_LB_Connected.set_text(define_str_connected);
+    d.m_LB_USBConnect.set_text("Connected via USB");
+    d.m_LB_SerialNumber.set_text("4df1a2b35c7e9d01");
+    d.m_LB_MobileName.set_text(phone_name);
+    d.m_LB_MobileNameBig.set_text(phone_name);
+    d.m_LB_AndroidVersion.set_text("4.4.2");
+    d.m_LB_Battery.set_text("85%");
+    d.m_Progress_Battery.set_value(4);
+    d.m_LB_Size_PhoneTotal.set_text("672.37MB");
+    d.m_LB_Size_PhoneTotal.set_tool_tip("5,000,000,000 bytes");
+    d.m_LB_Size_StorageTotal.set_text("1.46GB");
+    d.m_LB_Size_PhoneTotalFree.set_text("224.12MB");
+    d.m_LB_Size_StorageTotalFree.set_text("1023.99MB");
+    d.m_LevelIndicator_Size_Phone.set_value(75);
+    d.m_LevelIndicator_Size_Storage.set_value(59);
+    d.m_LB_ps.set_text(phone_name + "  is connected.");
+    const std::pair<Button*, const char*> titles[] = {
+        {&d.m_BT_Contacts, "Contacts(240)"}, {&d.m_BT_SMS, "SMS(1500)"},
+        {&d.m_BT_Apps, "Apps(30)"},          {&d.m_BT_Music, "Music(60)"},
+        {&d.m_BT_Photo, "Photos(40)"},       {&d.m_BT_Video, "Videos(8)"},
+        {&d.m_BT_Book, "Books(12)"}};
+    for (const auto& [button, title] : titles) button->set_title(title);
+    d.set_BT_Caption_White();
+    turn();
+}
+
+}  // namespace velk

@@ -1,0 +1,55 @@
+// A real window with a real document, for tests: the document's outlets are filled by hand, and
+// no phone and no tool is there.
+#pragma once
+
+#include <QAbstractButton>
+#include <QTest>
+#include <functional>
+#include <memory>
+
+#include "session/main_document.h"
+#include "shell/look.h"
+#include "shell/qt_desktop.h"
+#include "shell/velk_window.h"
+
+namespace velk {
+
+/// Made once for the process; every warning of the toolkit from then on is a failure.
+QApplication& test_application();
+
+/// A dark and a light desktop.
+QPalette dark_palette();
+QPalette light_palette();
+
+/// Turns the event loop until the condition holds; false when it has not after ten seconds.
+bool wait_until(const std::function<bool()>& condition);
+
+class Open_Window {
+  public:
+    Open_Window();
+    ~Open_Window();
+
+    /// The visible widget of that name; null when there is none.
+    template <class Widget = QWidget>
+    Widget* find(const char* name) {
+        for (auto* const widget : window->findChildren<Widget*>(QString::fromLatin1(name)))
+            if (widget->isVisible()) return widget;
+        return nullptr;
+    }
+    void click(const char* name) {
+        QTest::mouseClick(find<QAbstractButton>(name), Qt::LeftButton);
+        turn();
+    }
+    /// Lets everything happen that was posted.
+    void turn() { QTest::qWait(0); }
+    /// As after a connection: the sections open, and nothing is loaded again.
+    void connect();
+    /// A phone's values in every outlet.
+    void fill(const std::string& phone_name = "Galaxy Note 3");
+
+    Qt_Desktop desktop;
+    std::unique_ptr<MainDocument> document;
+    std::unique_ptr<Velk_Window> window;
+};
+
+}  // namespace velk
