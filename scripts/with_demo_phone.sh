@@ -54,6 +54,7 @@ trap 'exit 143' TERM
 trap 'exit 129' HUP
 
 start_server() {
+    export ANDROID_SDK_ROOT="${ANDROID_SDK_ROOT:-$HOME/Android/Sdk}" # an adb there is found as ever
     # Any of these would lead a client to another server or another phone.
     unset ADB_SERVER_SOCKET ANDROID_ADB_SERVER_ADDRESS ANDROID_SERIAL
     # Also for a server that a client starts by itself: no phone on the cable, no foreign emulator.
@@ -61,6 +62,7 @@ start_server() {
     for _ in {1..20}; do
         export ANDROID_ADB_SERVER_PORT=$((20001 + 2 * (RANDOM % 5000)))
         if is_open "$ANDROID_ADB_SERVER_PORT"; then continue; fi
+        # Its keys and its log stay out of your home.
         HOME=$folder TMPDIR=$folder "$bin/adb" nodaemon server >>"$folder/log" 2>&1 &
         server=$!
         wait_until server_has_decided || true
