@@ -5,7 +5,7 @@
 #
 #   scripts/with_demo_phone.sh build/release/bin/velk --connect
 #   scripts/with_demo_phone.sh bash          # look around with adb
-#   DEMO_PHONE_OPTIONS='--unauthorized' scripts/with_demo_phone.sh ./your-test
+#   DEMO_PHONE_OPTIONS='--play unauthorized' scripts/with_demo_phone.sh ./your-test
 #
 # VELK_BIN             where adb and demo_phone are, build/release/bin when unset
 # DEMO_PHONE_OPTIONS   more options for the demo phone; demo_phone --help lists them
@@ -76,9 +76,15 @@ start_phone() {
     "$bin/demo_phone" --port 0 --announce "$ANDROID_ADB_SERVER_PORT" "${phone_options[@]}" \
         >"$folder/phone" 2>>"$folder/log" &
     phone=$!
-    wait_until phone_is_listed || fail 'the demo phone does not come up'
+    wait_until phone_has_decided || true
+    { phone_is_ready && is_running "$phone"; } || fail 'the demo phone does not come up'
+    # One that plays a bad phone may never be listed.
+    [[ ${DEMO_PHONE_OPTIONS:-} == *--play* ]] || wait_until phone_is_listed ||
+        fail 'adb does not see the demo phone'
 }
-phone_is_listed() { is_running "$phone" && "$bin/adb" devices 2>/dev/null | grep -q $'\t'; }
+phone_is_ready() { grep -q '^port ' "$folder/phone"; }
+phone_has_decided() { phone_is_ready || ! is_running "$phone"; }
+phone_is_listed() { [ "$("$bin/adb" get-state 2>/dev/null)" = device ]; }
 
 "$scripts/agent_port_is_free.sh"
 start_server
