@@ -1,0 +1,27 @@
+// One connection of the computer to the agent: collects a request, answers it, plays the bad agent.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "demo_phone/demo_phone.h"
+#include "demo_phone/phone_service.h"
+
+namespace velk {
+
+class Agent_Link : public Phone_Service {
+  public:
+    explicit Agent_Link(Demo_Phone& phone) : phone_(phone) {}
+
+    void received(std::string_view bytes, Phone_Outlet& outlet) override;
+
+  private:
+    void answer(Phone_Outlet& outlet);
+    void send_reply(Agent_Answer answer, Phone_Outlet& outlet);
+
+    Demo_Phone& phone_;
+    std::string request_;
+    bool answered_ = false;
+};
+
+}  // namespace velk

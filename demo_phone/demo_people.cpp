@@ -1,0 +1,107 @@
+#include <algorithm>
+#include <cstdio>
+#include <ctime>
+#include <string>
+
+#include "demo_phone/demo_data.h"
+#include "demo_phone/demo_words.h"
+
+namespace velk {
+
+namespace {
+
+/// Every twentieth contact is a special one, until those are used up.
+constexpr std::size_t special_every = 20;
+
+std::string name_in(const Demo_Language& language, std::size_t number) {
+    const std::size_t givens = language.given.size();
+    const std::string given(pick(language.given, number));
+    // Behind each round of given names the family names move on, so that pairs repeat late.
+    std::string family(pick(language.family, number + number / givens));
+    const std::size_t round = number / (givens * language.family.size());
+    if (round > 0) family += " " + std::to_string(round + 1);
+    const std::string between(language.between);
+    return language.family_first ? family + between + given : given + between + family;
+}
+
+std::string contact_name(std::size_t index) {
+    const auto languages = demo_languages();
+    const std::size_t special = index / special_every;
+    if (index % special_every == special_every / 2 && special < demo_special_names().size())
+        return std::string(demo_special_names()[special]);
+    return name_in(languages[index % languages.size()], index / languages.size());
+}
+
+std::string lengthened(std::string name, std::size_t index) {
+    constexpr std::size_t long_enough = 100;
+    for (std::size_t i = 1; name.size() < long_enough; ++i)
+        name += " · " + contact_name(index * 7 + i * 5);
+    return name;
+}
+
+std::string contact_number(std::size_t index) {
+    const auto languages = demo_languages();
+    char digits[16];
+    std::snprintf(digits, sizeof digits, "%05zu", (index * 7919 + 12345) % 100000);
+    return std::string(languages[index % languages.size()].country) + digits;
+}
+
+std::string message_text(const Demo_Language& language, std::size_t number) {
+    std::string text(pick(language.sentences, number));
+    const std::string_view greeting = pick(language.greetings, number / 2);
+    const std::string_view closing = pick(language.closings, number / 3);
+    if (number % 3 != 0) text = std::string(greeting) + " " + text;
+    if (number % 4 == 1 && !closing.empty()) text += " " + std::string(closing);
+    return text;
+}
+
+/// Messages of one phone: a steady stream that ends on a day in spring, `left` steps before it.
+std::string message_date(std::size_t left) {
+    constexpr std::time_t last = 1716211800;  // 20 May 2024
+    constexpr std::time_t step = 3 * 3600 + 1740;
+    const std::time_t moment =
+        last - static_cast<std::time_t>(left) * step - static_cast<std::time_t>(left * left % 3001);
+    std::tm parts{};
+    gmtime_r(&moment, &parts);
+    char text[32];
+    std::strftime(text, sizeof text, "%Y-%m-%d %H:%M:%S", &parts);
+    return text;
+}
+
+/// Enough conversations that none of them reaches the 256 messages that can be told apart in it.
+std::size_t conversations_for(std::size_t messages) {
+    constexpr std::size_t at_least = 45;
+    constexpr std::size_t at_most = 255;
+    return std::clamp(messages / 200 + 1, at_least, at_most);
+}
+
+void fill_messages(Phone_Store& store, std::size_t count) {
+    const auto languages = demo_languages();
+    const std::size_t conversations = conversations_for(count);
+    for (std::size_t i = 0; i < count; ++i) {
+        // Neighbours in time belong together; the conversations take turns in runs of three.
+        const std::size_t partner = (i / 3 * 11 + i % 2 * 7) % conversations;
+        const Demo_Language& language = languages[partner % languages.size()];
+        const bool received = i % 5 < 3;
+        const std::size_t left = count - 1 - i;
+        Phone_Message message;
+        message.tel = contact_number(partner);
+        message.text = message_text(language, i / 2 + partner * 3);
+        message.date = message_date(left);
+        message.type = received ? 1 : 2;
+        message.read = !received || left > 12;
+        store.add_message(std::move(message));
+    }
+}
+
+}  // namespace
+
+void fill_people(Phone_Store& store, const Demo_Amounts& amounts) {
+    for (std::size_t i = 0; i < amounts.contacts; ++i) {
+        const std::string name = contact_name(i);
+        store.add_contact(amounts.long_names ? lengthened(name, i) : name, contact_number(i));
+    }
+    fill_messages(store, amounts.messages);
+}
+
+}  // namespace velk
