@@ -14,13 +14,5 @@ TEST(Trace, ARequestIsTracedByteForByte) {
               "text_command len=3\n(0) 122:'z'\n(1) 0:'\0'\n(2) -1:'\xFF'\n"s);
 }
 
-TEST(Trace, LogLinesGoToStandardErrorAndNotIntoTheTrace) {
-    testing::internal::CaptureStdout();
-    testing::internal::CaptureStderr();
-    log_line("%d %s", 3, "attempts");
-    EXPECT_NE(testing::internal::GetCapturedStderr().find("3 attempts\n"), std::string::npos);
-    EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
-}
-
 }  // namespace
 }  // namespace velk

@@ -27,15 +27,5 @@ TEST(BusyLine, ShowsTheNewestWaitThatIsStillUnderWay) {
                                     "m_LB_Busy: first, further on", "m_LB_Busy: "}));
 }
 
-TEST(BusyLine, AnEarlierWaitThatEndsLeavesTheNewerOne) {
-    Busy_Line line;
-    const int first = line.begin("first");
-    const int second = line.begin("second");
-    line.end(first);
-    EXPECT_EQ(line.m_LB_Busy.text(), "second");
-    line.end(second);
-    EXPECT_EQ(line.m_LB_Busy.text(), "");
-}
-
 }  // namespace
 }  // namespace velk

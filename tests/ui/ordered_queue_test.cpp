@@ -28,11 +28,13 @@ TEST(OrderedQueue, EachThreadsClosuresRunInTheOrderItPostedThem) {
                 });
         });
     // A turn comes only for a wake-up, so a wake-up that is forgotten leaves closures behind.
-    for (int answered = 0; run < threads * each; std::this_thread::yield())
-        if (answered < wakes) {
-            ++answered;
-            queue.run_turn();
-        }
+    int answered = 0;
+    while (run < threads * each) {
+        std::this_thread::yield();
+        if (answered == wakes) continue;
+        ++answered;
+        queue.run_turn();
+    }
     for (std::thread& poster : posters) poster.join();
 }
 
@@ -86,10 +88,11 @@ TEST(OrderedQueue, ClosingDropsWhatWaitsAndRefusesTheRest) {
 TEST(OrderedQueue, AClosureThatIsDroppedMayPostWhenItGoes) {
     Ordered_Queue queue([] {});
     struct Posts_When_It_Goes {
-        Ordered_Queue& queue;
+        explicit Posts_When_It_Goes(Ordered_Queue& its_queue) : queue(its_queue) {}
         ~Posts_When_It_Goes() {
             EXPECT_FALSE(queue.post([] {}));
         }
+        Ordered_Queue& queue;
     };
     queue.post([last = std::make_shared<Posts_When_It_Goes>(queue)] {});
     queue.close();

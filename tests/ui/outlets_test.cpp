@@ -33,14 +33,6 @@ TEST(Outlets, EveryChangeIsToldAlsoOneToTheSameValue) {
                                     "m_BT colour: 255 255 255", "m_BT centred", "m_Level: -1"}));
 }
 
-TEST(Outlets, ANewTitleIsNoLongerColoured) {
-    Button button("m_BT");
-    button.set_colour(white);
-    EXPECT_TRUE(button.coloured());
-    button.set_title("SMS(2)");
-    EXPECT_FALSE(button.coloured());
-}
-
 TEST(OutletsDeathTest, AWorkerThatWritesOneDirectlyIsCaught) {
     testing::FLAGS_gtest_death_test_style = "threadsafe";
     EXPECT_DEBUG_DEATH(

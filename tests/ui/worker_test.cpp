@@ -65,11 +65,12 @@ TEST_F(Workers, OneThatDoesNotEndIsToldAndNotWaitedFor) {
 
 TEST_F(Workers, AWorkerHasEndedOnlyWhenWhatItOwnsHasGone) {
     struct Slow_To_Go {
-        std::atomic<bool>& gone;
+        explicit Slow_To_Go(std::atomic<bool>& flag) : gone(flag) {}
         ~Slow_To_Go() {
             for (int i = 0; i < 1000; ++i) std::this_thread::yield();
             gone = true;
         }
+        std::atomic<bool>& gone;
     };
     for (int i = 0; i < 20; ++i) {
         std::atomic<bool> gone = false;
