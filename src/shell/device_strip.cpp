@@ -48,6 +48,7 @@ void Device_Strip::add_value(const Window_Parts& parts, const char* caption, Lab
     auto* const lines = column();
     auto* const label = new Text_Label(this);
     label->set_room(6, room);
+    label->set_dash_for_nothing();
     lines->addWidget(quiet_caption(QString::fromLatin1(caption)));
     lines->addWidget(label);
     bind_label(parts.binding, value, label);
@@ -59,6 +60,7 @@ void Device_Strip::add_connection(const Window_Parts& parts) {
     auto* const connected = new Text_Label(this);
     auto* const cable = new Text_Label(this);
     connected->set_room(10, room_of_connection);
+    connected->set_dash_for_nothing();
     connected->setFont(scaled_font(1, true));
     cable->set_room(10, room_of_connection);
     cable->setFont(scaled_font(0.85));
@@ -79,6 +81,7 @@ void Device_Strip::add_battery(const Window_Parts& parts) {
     gauge->setAccessibleName(QStringLiteral("Battery"));
     auto* const label = new Text_Label(this);
     label->set_room(4, 6);
+    label->set_dash_for_nothing();
     values->addWidget(gauge);
     values->addWidget(label);
     lines->addWidget(quiet_caption(QStringLiteral("Battery")));

@@ -57,30 +57,31 @@ QPixmap drawing(const QString& name, QSize size, qreal ratio) {
 /// Draws the icon anew for every size, state and theme that is asked for.
 class Themed_Icon : public QIconEngine {
   public:
-    Themed_Icon(QString name, bool on_accent) : name_(std::move(name)), on_accent_(on_accent) {}
+    Themed_Icon(QString name, Ink ink) : name_(std::move(name)), ink_(ink) {}
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
         const qreal ratio = painter->device()->devicePixelRatio();
-        painter->drawPixmap(rect, icon_pixmap(name_, rect.size(), ratio, ink(mode)));
+        painter->drawPixmap(rect, icon_pixmap(name_, rect.size(), ratio, colour(mode)));
     }
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
         return scaledPixmap(size, mode, state, 1);
     }
     // The size is in device pixels.
     QPixmap scaledPixmap(const QSize& size, QIcon::Mode mode, QIcon::State, qreal) override {
-        return icon_pixmap(name_, size, 1, ink(mode));
+        return icon_pixmap(name_, size, 1, colour(mode));
     }
     QIconEngine* clone() const override { return new Themed_Icon(*this); }
 
   private:
-    QColor ink(QIcon::Mode mode) const {
+    QColor colour(QIcon::Mode mode) const {
         const Look look = Look::now();
         if (mode == QIcon::Disabled) return look.disabled;
-        return on_accent_ ? look.on_accent : look.text;
+        if (ink_ == Ink::accent) return look.accent_text;
+        return ink_ == Ink::on_accent ? look.on_accent : look.text;
     }
 
     QString name_;
-    bool on_accent_;
+    Ink ink_;
 };
 
 }  // namespace
@@ -96,9 +97,9 @@ QPixmap icon_pixmap(const QString& name, QSize size, qreal ratio, const QColor& 
     return pixmap;
 }
 
-QIcon themed_icon(const QString& name, bool on_accent) {
+QIcon themed_icon(const QString& name, Ink ink) {
     if (!QFile::exists(QStringLiteral(":/icons/%1.svg").arg(name))) return {};
-    return QIcon(new Themed_Icon(name, on_accent));
+    return QIcon(new Themed_Icon(name, ink));
 }
 
 QPixmap picture(const QString& name, QSize size, qreal ratio) {

@@ -13,10 +13,12 @@ namespace velk {
 /// there is no such drawing, or no reader for it on this system.
 QPixmap icon_pixmap(const QString& name, QSize size, qreal ratio, const QColor& ink);
 
-/// An icon for buttons on the window's own ground, which follows the theme and the button's state.
-/// `on_accent` is for buttons that are filled with the accent colour. Empty for a name without a
-/// drawing.
-QIcon themed_icon(const QString& name, bool on_accent = false);
+/// The colour of a button's icon: that of texts, the accent, or that of texts on the accent.
+enum class Ink { text, accent, on_accent };
+
+/// An icon for a button, which follows the theme and the button's state. Empty for a name without
+/// a drawing.
+QIcon themed_icon(const QString& name, Ink ink = Ink::text);
 
 /// A picture by its file's name ("usbLine.png", or "phone" for one that is only drawn), as large
 /// as fits into `size`. A drawing of that name takes on the theme's colours; a finished picture

@@ -36,6 +36,7 @@ Section_Page::Section_Page(const Section& section, const Window_Parts& parts) {
     table_->setAccessibleName(shown(section.title));
     column->addWidget(table_, 1);
     auto* const status = new Text_Label(this);
+    status->set_sentence();
     status->setAccessibleDescription(QStringLiteral("Status"));
     make_quiet(status);
     column->addWidget(status);

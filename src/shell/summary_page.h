@@ -21,6 +21,8 @@ class Summary_Page : public QWidget {
     struct Storage;
     QWidget* heading();
     QWidget* storage_card(const Storage& storage);
+    QLayout* free_space(const Storage& storage, QWidget* card);
+    QLayout* gauge_on_ground(const Storage& storage, QWidget* card);
     QWidget* shortcuts();
     void add_shortcut(QHBoxLayout* row, Button& outlet, const char* icon,
                       void (MainDocument::*handler)());

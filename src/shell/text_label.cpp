@@ -54,8 +54,9 @@ QSize Text_Label::minimumSizeHint() const {
 
 void Text_Label::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    const QString whole = line();
-    const bool right_to_left = whole.isRightToLeft();
+    const bool nothing = dash_for_nothing_ && text().isEmpty();
+    const QString whole = nothing ? QStringLiteral("–") : line();
+    const bool right_to_left = !sentence_ && whole.isRightToLeft();
     painter.setLayoutDirection(right_to_left ? Qt::RightToLeft : Qt::LeftToRight);
     painter.setPen(palette().color(foregroundRole()));
     const QString shown = fontMetrics().elidedText(whole, Qt::ElideRight, width());

@@ -16,8 +16,14 @@ class Text_Label : public QLabel {
     /// The text, and a tool tip of its own that stands in for that of a shortened text. No markup
     /// in either.
     void show_text(const QString& text, const QString& tool_tip = {});
-    /// The room the label asks for at least and at most, in average characters.
+    /// The room the label asks for at least and at most, in average characters; 0 for the most
+    /// means as much as the text takes.
     void set_room(int least, int most);
+    /// The text is a sentence of the program's own language, which runs from left to right
+    /// whatever names stand in it.
+    void set_sentence() { sentence_ = true; }
+    /// Draws a dash while there is no text, so that a caption does not stand alone.
+    void set_dash_for_nothing() { dash_for_nothing_ = true; }
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -31,7 +37,9 @@ class Text_Label : public QLabel {
     int width_of(int characters) const;
 
     int least_ = 4;
-    int most_ = 0;  // 0: as much as the text takes
+    int most_ = 0;
+    bool sentence_ = false;
+    bool dash_for_nothing_ = false;
 };
 
 /// `text` as a tool tip that is never taken for markup.

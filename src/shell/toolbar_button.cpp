@@ -1,5 +1,6 @@
 #include "shell/toolbar_button.h"
 
+#include <QFocusEvent>
 #include <QPainter>
 #include <algorithm>
 #include <utility>
@@ -53,6 +54,12 @@ void Toolbar_Button::leaveEvent(QEvent*) {
     update();
 }
 
+void Toolbar_Button::focusInEvent(QFocusEvent* event) {
+    const Qt::FocusReason reason = event->reason();
+    reached_by_key_ = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason;
+    QAbstractButton::focusInEvent(event);
+}
+
 void Toolbar_Button::paint_ground(QPainter& painter) const {
     const Look look = Look::now();
     const QRectF ground = QRectF(rect()).adjusted(2, 2, -2, -2);
@@ -65,7 +72,7 @@ void Toolbar_Button::paint_ground(QPainter& painter) const {
         painter.setBrush(QColor(0x6f, 0x9c, 0xff));
         painter.drawRoundedRect(QRectF(width() / 2.0 - 14, height() - 6, 28, 3), 1.5, 1.5);
     }
-    if (hasFocus()) {
+    if (hasFocus() && reached_by_key_) {
         painter.setPen(QPen(look.toolbar_text, 1.5));
         painter.setBrush(Qt::NoBrush);
         painter.drawRoundedRect(ground, 6, 6);

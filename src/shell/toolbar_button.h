@@ -25,6 +25,7 @@ class Toolbar_Button : public QAbstractButton {
     void paintEvent(QPaintEvent* event) override;
     void enterEvent(QEnterEvent* event) override;
     void leaveEvent(QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
 
   private:
     void paint_ground(QPainter& painter) const;
@@ -32,6 +33,7 @@ class Toolbar_Button : public QAbstractButton {
     QString icon_;
     QColor colour_;
     bool current_ = false;
+    bool reached_by_key_ = false;  // the focus is worth a mark
 };
 
 }  // namespace velk

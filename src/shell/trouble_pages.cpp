@@ -1,5 +1,6 @@
 // The two pages for a phone that is not reached: what is wrong in one sentence, then the next
 // steps.
+#include <QFontDatabase>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -17,6 +18,8 @@ namespace {
 
 constexpr QSize picture_size{150, 217};
 constexpr int badge_size = 26;
+constexpr QStringView mark_of_a_point = u"* ";
+constexpr QStringView mark_of_a_command = u"$ ";
 
 using Steps = std::vector<const char*>;
 
@@ -31,18 +34,18 @@ const Steps steps_to_allow = {
 const Steps steps_to_debugging = {
     "Connect the phone with a USB cable and unlock its screen.",
     "Switch on USB debugging on the phone. Where it is depends on the Android version:\n"
-    "• 8 and later: Settings › System › About phone: tap Build number seven times, then "
+    "* 8 and later: Settings › System › About phone: tap Build number seven times, then "
     "Settings › System › Developer options › USB debugging.\n"
-    "• 4.2 to 7: Settings › About phone: tap Build number seven times, then Settings › "
+    "* 4.2 to 7: Settings › About phone: tap Build number seven times, then Settings › "
     "Developer options › USB debugging.\n"
-    "• 4.0 and 4.1: Settings › Developer options › USB debugging.\n"
-    "• 2.3 to 3.x: Settings › Applications › Development › USB debugging.",
+    "* 4.0 and 4.1: Settings › Developer options › USB debugging.\n"
+    "* 2.3 to 3.x: Settings › Applications › Development › USB debugging.",
     "If it is on already, try another USB cable (some only charge) and another port, best one of "
     "the computer's own.",
     "On Linux your account needs permission to use the phone. Debian and Ubuntu bring it with a "
     "package:\n"
-    "sudo apt install android-sdk-platform-tools-common\n"
-    "sudo usermod -aG plugdev $USER\n"
+    "$ sudo apt install android-sdk-platform-tools-common\n"
+    "$ sudo usermod -aG plugdev $USER\n"
     "Log out and in again, and plug the phone in once more.",
     "Then press Refresh.",
 };
@@ -56,6 +59,22 @@ QLabel* text_of(const QString& text) {
     return label;
 }
 
+/// A line of a step: a point of a list, a command, or plain words.
+QLayout* one_line(const QString& line) {
+    auto* const row = new QHBoxLayout;
+    set_tight(row, small_space);
+    const bool point = line.startsWith(mark_of_a_point);
+    const bool command = line.startsWith(mark_of_a_command);
+    if (point) row->addWidget(new QLabel(QStringLiteral("•")), 0, Qt::AlignTop);
+    QLabel* const words = text_of(point || command ? line.mid(2) : line);
+    if (command) {
+        words->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+        words->setProperty("command", true);
+    }
+    row->addWidget(words, 1);
+    return row;
+}
+
 QLayout* numbered(int number, const char* text) {
     auto* const row = new QHBoxLayout;
     set_tight(row, 12);
@@ -64,9 +83,11 @@ QLayout* numbered(int number, const char* text) {
     badge->setAlignment(Qt::AlignCenter);
     badge->setFixedSize(badge_size, badge_size);
     row->addWidget(badge, 0, Qt::AlignTop);
-    auto* const words = text_of(QString::fromUtf8(text));
-    words->setContentsMargins(0, 4, 0, 0);
-    row->addWidget(words, 1);
+    auto* const lines = new QVBoxLayout;
+    lines->setContentsMargins(0, 4, 0, 0);
+    lines->setSpacing(6);
+    for (const QString& line : QString::fromUtf8(text).split(u'\n')) lines->addLayout(one_line(line));
+    row->addLayout(lines, 1);
     return row;
 }
 

@@ -65,6 +65,7 @@ QWidget* Velk_Window::status_strip() {
     row->setContentsMargins(space_between, 6, space_between, 6);
     row->setSpacing(small_space);
     auto* const status = new Text_Label(strip);
+    status->set_sentence();
     status->setAccessibleDescription(QStringLiteral("Status"));
     auto* const spinner = new Busy_Spinner(strip);
     auto* const busy = new Text_Label(strip);

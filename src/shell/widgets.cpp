@@ -83,7 +83,7 @@ QLabel* quiet_caption(const QString& text) {
 QPushButton* refresh_button(const Window_Parts& parts, std::function<void()> run) {
     auto* const button = new QPushButton(QStringLiteral("Refresh"));
     button->setProperty("primary", true);
-    button->setIcon(themed_icon(QStringLiteral("refresh"), true));
+    button->setIcon(themed_icon(QStringLiteral("refresh"), Ink::on_accent));
     button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     parts.guards.connect_button(button, &g_can_click_refresh, std::move(run));
     return button;
