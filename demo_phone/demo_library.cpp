@@ -62,7 +62,7 @@ bool add_photo(Phone_Store& store, Phone_Storage& storage, std::size_t index, bo
     media.path = std::string("/sdcard/photo/") + name;
     if (index % 3 == 2) media.path += " " + std::string(pick(demo_photo_subjects(), index / 3));
     media.path += ".png";
-    const std::size_t width = small ? 8 : 160 + index * 8 % 96;
+    const std::size_t width = small ? 8 : 96 + index * 8 % 56;
     const std::size_t height = small ? 6 : width * 3 / 4;
     return enter(store, storage, media, index,
                  [&] { return demo_picture(width, height, static_cast<unsigned>(index)); });
@@ -70,7 +70,7 @@ bool add_photo(Phone_Store& store, Phone_Storage& storage, std::size_t index, bo
 
 bool add_video(Phone_Store& store, Phone_Storage& storage, std::size_t index, bool small) {
     const Demo_Words titles = demo_video_titles();
-    const std::size_t seconds = small ? 1 : 18 + index * 11 % 40;
+    const std::size_t seconds = small ? 1 : 9 + index * 5 % 14;
     Phone_Media media;
     media.kind = Media_Kind::video;
     media.path = "/sdcard/movies/" + std::string(pick(titles, index)) +

@@ -53,6 +53,7 @@ class Install_Service : public Phone_Service {
     Install_Service(Demo_Phone& phone, std::uint64_t size)
         : phone_(phone),
           missing_(size),
+          name_("Package of " + std::to_string(size) + " bytes"),  // its own name stays behind
           file_(phone.storage.real_path(g_file).value_or(""), std::ios::binary | std::ios::trunc) {}
 
     void received(std::string_view bytes, Phone_Outlet& outlet) override {
@@ -63,7 +64,7 @@ class Install_Service : public Phone_Service {
         missing_ -= wanted.size();
         if (missing_ > 0) return;
         file_.close();
-        outlet.send(install_package(phone_, g_file, "streamed package.apk"));
+        outlet.send(install_package(phone_, g_file, name_));
         phone_.storage.remove(g_file);
         outlet.finish();
     }
@@ -73,6 +74,7 @@ class Install_Service : public Phone_Service {
 
     Demo_Phone& phone_;
     std::uint64_t missing_;
+    std::string name_;
     std::ofstream file_;
 };
 

@@ -151,7 +151,7 @@ bool Phone_Storage::set_time(std::string_view phone_path, std::uint32_t time) {
 
 bool Phone_Storage::remove(std::string_view phone_path, bool whole_folder) {
     const auto path = real_path(phone_path);
-    if (!path || *path == root_) return false;
+    if (!path || plain_phone_path(phone_path) == "/") return false;
     std::error_code error;
     const bool removed = whole_folder ? fs::remove_all(*path, error) > 0 : fs::remove(*path, error);
     return removed && !error;

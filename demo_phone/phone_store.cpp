@@ -62,11 +62,18 @@ std::vector<bool>::reference Phone_Store::pair(int id, int thread) {
 
 bool Phone_Store::add_message(Phone_Message message) {
     message.thread = thread_of(message.tel);
+    if (full(message.thread)) return false;
     const auto id = message_ids_.take([&](int number) { return !pair(number, message.thread); });
     if (!id) return false;
     message.id = *id;
     pair(message.id, message.thread) = true;
     messages_.push_front(std::move(message));
+    return true;
+}
+
+bool Phone_Store::full(int thread) {
+    for (int id = 0; id < 256; ++id)
+        if (!pair(id, thread)) return false;
     return true;
 }
 

@@ -103,6 +103,7 @@ class Phone_Store {
   private:
     int thread_of(const std::string& tel);
     std::vector<bool>::reference pair(int id, int thread);
+    bool full(int thread);
     void forget(const Phone_Message& message);
 
     std::vector<Phone_Contact> contacts_;
