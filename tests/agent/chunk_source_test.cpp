@@ -53,6 +53,15 @@ TEST(ChunkSource, APauseIsWaitedOutOnlyWhereTheListWouldLose) {
     }
 }
 
+TEST(ChunkSource, FewerThan8BytesInTheMiddleOfARecordAreNoChunk) {
+    Record_Places rule(largest, header, fixed_record);
+    const std::string bytes = reply_of(2);
+    EXPECT_EQ(
+        lengths(chunks_of(
+            {{bytes.substr(0, 29)}, {bytes.substr(29, 7), 11}, {bytes.substr(36), 69}}, rule)),
+        (std::vector<std::size_t>{29, 18}));
+}
+
 TEST(ChunkSource, WhenMoreThanAChunkIsThereItEndsAtTheLastSafePlace) {
     const struct {
         const char* what;
