@@ -57,8 +57,7 @@ void Level_Gauge::paint_battery(QPainter& painter) const {
     painter.setBrush(look.muted);
     painter.drawRoundedRect(QRectF(body.right() + 1, height() / 2.0 - 3.5, battery_pole, 7), 1, 1);
     painter.setBrush(look.accent_text);
-    const QRectF room =
-        body.adjusted(battery_wall, battery_wall, -battery_wall, -battery_wall);
+    const QRectF room = body.adjusted(battery_wall, battery_wall, -battery_wall, -battery_wall);
     const double step = (room.width() + 1) / maximum();
     for (int i = 0; i < value(); ++i)
         painter.drawRoundedRect(QRectF(room.left() + i * step, room.top(), step - 1, room.height()),

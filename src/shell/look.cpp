@@ -69,7 +69,7 @@ Look Look::of(const QPalette& palette) {
     look.accent_hover = QColor(0x1d, 0x49, 0xb4);
     look.on_accent = Qt::white;
     look.accent_text = readable(dark ? QColor(0x7d, 0xa9, 0xff) : look.accent, ground);
-    look.pressed = mix(look.card, look.accent, 0.14);
+    look.pressed = mix(look.card, look.accent, 0.08);
     look.toolbar = dark ? mix(look.window, Qt::black, 0.45) : QColor(0x1e, 0x27, 0x36);
     look.toolbar_hover = mix(look.toolbar, Qt::white, 0.12);
     look.toolbar_text = QColor(0xee, 0xf2, 0xf8);
@@ -82,11 +82,13 @@ Look Look::now() {
 
 QString Look::fill_in(QString style_sheet) const {
     const std::pair<const char*, QColor> places[] = {
-        {"window", window},   {"card", card},           {"stripe", stripe},
-        {"text", text},       {"muted", muted},         {"disabled", disabled},
-        {"line", line},       {"edge", edge},           {"accent", accent},
-        {"pressed", pressed}, {"on_accent", on_accent}, {"accent_hover", accent_hover},
-        {"toolbar", toolbar}, {"accent_text", accent_text}};
+        {"window", window},       {"card", card},
+        {"stripe", stripe},       {"text", text},
+        {"muted", muted},         {"disabled", disabled},
+        {"line", line},           {"edge", edge},
+        {"accent", accent},       {"pressed", pressed},
+        {"on_accent", on_accent}, {"accent_hover", accent_hover},
+        {"toolbar", toolbar},     {"accent_text", accent_text}};
     for (const auto& [name, colour] : places)
         style_sheet.replace(QStringLiteral("@%1@").arg(name), colour.name());
     return style_sheet;

@@ -11,11 +11,11 @@ namespace velk {
 
 /// One accent colour and what goes with it, for a light and for a dark desktop alike.
 struct Look {
-    QColor window, card, stripe;      // grounds
-    QColor text, muted, disabled;     // texts; the first two read well on every ground
-    QColor line, edge;                // between things, and around things that can be pressed
+    QColor window, card, stripe;   // grounds
+    QColor text, muted, disabled;  // texts; the first two read well on every ground
+    QColor line, edge;             // between things, and around things that can be pressed
     QColor accent, accent_hover, on_accent;  // a filled control and its text
-    QColor accent_text;               // the accent where it is a line or a text on a ground
+    QColor accent_text;                      // the accent where it is a line or a text on a ground
     QColor pressed;
     QColor toolbar, toolbar_hover, toolbar_text;
 

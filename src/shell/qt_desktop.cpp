@@ -46,8 +46,7 @@ void Qt_Desktop::beep() {
 bool Qt_Desktop::end_editing() {
     QWidget* const focus = window_ ? window_->focusWidget() : nullptr;
     QWidget* const around = focus ? focus->parentWidget() : nullptr;
-    auto* const table =
-        qobject_cast<QAbstractItemView*>(around ? around->parentWidget() : nullptr);
+    auto* const table = qobject_cast<QAbstractItemView*>(around ? around->parentWidget() : nullptr);
     if (table) table->setFocus();
     return true;
 }

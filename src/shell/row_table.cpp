@@ -20,7 +20,7 @@ namespace velk {
 namespace {
 
 constexpr int space_in_a_row = 14;
-constexpr int space_beside_a_cell = 8;
+constexpr int space_beside_a_cell = 12;
 
 QString one_line(QString text) {
     for (QChar& character : text)
@@ -49,13 +49,21 @@ class Cell_Delegate : public QStyledItemDelegate {
         return true;
     }
 
-  protected:
-    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
-        QStyledItemDelegate::initStyleOption(option, index);
-        if (option->text.isRightToLeft()) {
-            option->direction = Qt::RightToLeft;
-            option->displayAlignment |= Qt::AlignAbsolute;
-        }
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override {
+        QStyleOptionViewItem cell = option;
+        initStyleOption(&cell, index);
+        const QWidget* const view = option.widget;
+        view->style()->drawPrimitive(QStyle::PE_PanelItemViewItem, &cell, painter, view);
+        const QRect room = cell.rect.adjusted(space_beside_a_cell, 0, -space_beside_a_cell, 0);
+        const bool selected = cell.state & QStyle::State_Selected;
+        painter->save();
+        painter->setPen(cell.palette.color(selected ? QPalette::HighlightedText : QPalette::Text));
+        painter->setLayoutDirection(cell.text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
+        painter->drawText(
+            room, static_cast<int>(cell.displayAlignment | Qt::AlignAbsolute) | Qt::TextSingleLine,
+            cell.fontMetrics.elidedText(cell.text, Qt::ElideRight, room.width()));
+        painter->restore();
     }
 };
 
@@ -98,7 +106,8 @@ void Row_Table::set_up_columns() {
     header->setMinimumSectionSize(48);
     for (int i = 0; i < model_->columnCount(); ++i) {
         const Column& column = model_->column(i);
-        setColumnWidth(i, fontMetrics().averageCharWidth() * column.width + 20);
+        setColumnWidth(i,
+                       fontMetrics().averageCharWidth() * column.width + 2 * space_beside_a_cell);
         if (column.wide) header->setSectionResizeMode(i, QHeaderView::Stretch);
     }
 }
@@ -106,8 +115,10 @@ void Row_Table::set_up_columns() {
 void Row_Table::show_changes() {
     const int rows_before = model_->rowCount();
     model_->catch_up();
-    // The arrow only tells what a click has done; other rows are not sorted.
-    if (model_->rowCount() != rows_before) horizontalHeader()->setSortIndicatorShown(false);
+    if (model_->rowCount() != rows_before && sorted_column_ != none) {
+        sorted_column_ = none;  // rows that have come since are not sorted
+        show_arrow();
+    }
     if (std::exchange(scrolls_, table_.scrolls()) != table_.scrolls()) scrollToBottom();
 }
 
@@ -130,14 +141,18 @@ void Row_Table::report_selection() {
 }
 
 void Row_Table::sort_by(int column) {
-    QHeaderView* const header = horizontalHeader();
-    const bool again = header->isSortIndicatorShown() && header->sortIndicatorSection() == column &&
-                       header->sortIndicatorOrder() == Qt::AscendingOrder;
-    const Qt::SortOrder order = again ? Qt::DescendingOrder : Qt::AscendingOrder;
-    table_.sort(model_->table_column(column), order == Qt::AscendingOrder);
+    ascending_ = sorted_column_ != column || !ascending_;
+    table_.sort(model_->table_column(column), ascending_);
     show_changes();
-    header->setSortIndicator(column, order);
-    header->setSortIndicatorShown(true);
+    sorted_column_ = column;
+    show_arrow();
+}
+
+// The header turns an arrow of its own at every click; ours tells what has been done.
+void Row_Table::show_arrow() {
+    const Qt::SortOrder order = ascending_ ? Qt::AscendingOrder : Qt::DescendingOrder;
+    if (sorted_column_ != none) horizontalHeader()->setSortIndicator(sorted_column_, order);
+    horizontalHeader()->setSortIndicatorShown(sorted_column_ != none);
 }
 
 void Row_Table::copy_selection() const {

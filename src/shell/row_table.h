@@ -23,10 +23,13 @@ class Row_Table : public QTableView {
     void paintEvent(QPaintEvent* event) override;
 
   private:
+    static constexpr int none = -1;
+
     void set_up_columns();
     void show_changes();
     void report_selection();
     void sort_by(int column);
+    void show_arrow();
     void copy_selection() const;
     std::vector<int> selected_row_numbers() const;
 
@@ -34,6 +37,8 @@ class Row_Table : public QTableView {
     Table_Model* model_;
     QString empty_text_;
     int scrolls_ = 0;
+    int sorted_column_ = none;  // which a click has sorted, while no other rows have come
+    bool ascending_ = false;
 };
 
 }  // namespace velk

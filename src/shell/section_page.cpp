@@ -43,9 +43,9 @@ Section_Page::Section_Page(const Section& section, const Window_Parts& parts) {
     bind_label(parts.binding, *section.status, status);
     for (auto* const button : findChildren<QPushButton*>())
         if (button->text() == QStringLiteral("Delete"))
-            connect(new QShortcut(QKeySequence::Delete, table_, nullptr, nullptr,
-                                  Qt::WidgetShortcut),
-                    &QShortcut::activated, button, &QPushButton::click);
+            connect(
+                new QShortcut(QKeySequence::Delete, table_, nullptr, nullptr, Qt::WidgetShortcut),
+                &QShortcut::activated, button, &QPushButton::click);
 }
 
 QHBoxLayout* Section_Page::command_row(const Section& section, const Window_Parts& parts) {

@@ -45,13 +45,12 @@ Summary_Page::Summary_Page(const Window_Parts& parts) : parts_(parts) {
     set_tight(column, large_space);
     auto* const cards = new QHBoxLayout;
     set_tight(cards, space_between);
-    const Storage storages[] = {
-        {"Phone memory", "my_android", document.m_LB_Size_PhoneTotalFree,
-         document.m_LB_Free_Phone_Caption, document.m_LB_Size_Phone_BK,
-         document.m_LevelIndicator_Size_Phone},
-        {"Storage", "storage", document.m_LB_Size_StorageTotalFree,
-         document.m_LB_Free_Storage_Caption, document.m_LB_Size_Storage_BK,
-         document.m_LevelIndicator_Size_Storage}};
+    const Storage storages[] = {{"Phone memory", "my_android", document.m_LB_Size_PhoneTotalFree,
+                                 document.m_LB_Free_Phone_Caption, document.m_LB_Size_Phone_BK,
+                                 document.m_LevelIndicator_Size_Phone},
+                                {"Storage", "storage", document.m_LB_Size_StorageTotalFree,
+                                 document.m_LB_Free_Storage_Caption, document.m_LB_Size_Storage_BK,
+                                 document.m_LevelIndicator_Size_Storage}};
     for (const Storage& storage : storages) cards->addWidget(storage_card(storage), 1);
     column->addStretch(1);
     column->addWidget(heading());
@@ -155,9 +154,8 @@ void Summary_Page::add_shortcut(QHBoxLayout* row, Button& outlet, const char* ic
     button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     row->addWidget(button, 1);
     bind_button(parts_.binding, outlet, button);
-    parts_.guards.connect_button(button, nullptr, [&document = parts_.document, handler] {
-        (document.*handler)();
-    });
+    parts_.guards.connect_button(button, nullptr,
+                                 [&document = parts_.document, handler] { (document.*handler)(); });
 }
 
 void Summary_Page::watch_controls() {

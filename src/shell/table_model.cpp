@@ -84,8 +84,7 @@ QVariant Table_Model::headerData(int section, Qt::Orientation orientation, int r
 
 Qt::ItemFlags Table_Model::flags(const QModelIndex& index) const {
     if (!index.isValid()) return Qt::NoItemFlags;
-    return Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsEditable |
-           Qt::ItemNeverHasChildren;
+    return Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsEditable | Qt::ItemNeverHasChildren;
 }
 
 }  // namespace velk

@@ -37,25 +37,30 @@ QString Text_Label::line() const {
     return one_line;
 }
 
+QString Text_Label::drawn_text() const {
+    return dash_for_nothing_ && text().isEmpty() ? QStringLiteral("–") : line();
+}
+
+int Text_Label::text_width() const {
+    return fontMetrics().horizontalAdvance(drawn_text()) + 2;
+}
+
 int Text_Label::width_of(int characters) const {
     return fontMetrics().averageCharWidth() * characters;
 }
 
 QSize Text_Label::sizeHint() const {
-    const int text_width = fontMetrics().horizontalAdvance(line()) + 2;
-    const int most = most_ > 0 ? width_of(most_) : text_width;
-    return {std::clamp(text_width, std::min(width_of(least_), most), most),
-            fontMetrics().height()};
+    const int most = most_ > 0 ? width_of(most_) : text_width();
+    return {std::min(text_width(), most), fontMetrics().height()};
 }
 
 QSize Text_Label::minimumSizeHint() const {
-    return {width_of(least_), fontMetrics().height()};
+    return {std::min(width_of(least_), text_width()), fontMetrics().height()};
 }
 
 void Text_Label::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    const bool nothing = dash_for_nothing_ && text().isEmpty();
-    const QString whole = nothing ? QStringLiteral("–") : line();
+    const QString whole = drawn_text();
     const bool right_to_left = !sentence_ && whole.isRightToLeft();
     painter.setLayoutDirection(right_to_left ? Qt::RightToLeft : Qt::LeftToRight);
     painter.setPen(palette().color(foregroundRole()));

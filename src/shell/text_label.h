@@ -34,6 +34,8 @@ class Text_Label : public QLabel {
 
   private:
     QString line() const;
+    QString drawn_text() const;
+    int text_width() const;
     int width_of(int characters) const;
 
     int least_ = 4;

@@ -88,7 +88,8 @@ void Toolbar_Button::paintEvent(QPaintEvent*) {
                        icon_pixmap(icon_, {icon_size, icon_size}, devicePixelRatioF(), ink));
     painter.setPen(ink);
     const QRect room = rect().adjusted(4, icon_size + space + 4, -4, -space + 2);
-    painter.drawText(room, Qt::AlignHCenter | Qt::AlignTop | Qt::TextSingleLine | Qt::TextHideMnemonic,
+    painter.drawText(room,
+                     Qt::AlignHCenter | Qt::AlignTop | Qt::TextSingleLine | Qt::TextHideMnemonic,
                      fontMetrics().elidedText(text(), Qt::ElideRight, room.width()));
 }
 

@@ -46,6 +46,13 @@ void press_and_release(QWidget* target) {
     QCoreApplication::sendEvent(target, &release);
 }
 
+/// A short attempt may be over before the first point is lit.
+bool the_points_run() {
+    const Image& first = g_View_Start->m_Image_loading_1;
+    const bool lit = first.picture() == g_PicFileName_LoadingAnimation_Light;
+    return !first.hidden() && (lit || g_loading_animation_stop);
+}
+
 bool all_guards_are_up(const Section& section) {
     return std::all_of(section.commands.begin(), section.commands.end(),
                        [](const Command& each) { return !each.guard || *each.guard; });
@@ -71,13 +78,8 @@ Tour::Tour(MainDocument& document, Velk_Window& window, std::string folder)
 }
 
 void Tour::plan() {
-    stops_.push_back({"connecting", [this] { click("OnBT_Refresh"); },
-                      [] {
-                          const Image& first = g_View_Start->m_Image_loading_1;
-                          return !first.hidden() &&
-                                 first.picture() == g_PicFileName_LoadingAnimation_Light;
-                      },
-                      {}});
+    stops_.push_back(
+        {"connecting", [this] { click("OnBT_Refresh"); }, [] { return the_points_run(); }, {}});
     stops_.push_back({"connected", {}, [this] { return attempt_has_ended(); }, {}});
     stops_.push_back({"summary", [this] { click("m_BT_MyAndroid"); },
                       [this] { return shows(nullptr); },
@@ -142,8 +144,8 @@ void Tour::look() {
 
 void Tour::take_picture() {
     window_.bring_up_to_date();
-    const std::string file = format("%s/%02d-%s.png", folder_.c_str(), ++number_,
-                                    stops_.front().name.c_str());
+    const std::string file =
+        format("%s/%02d-%s.png", folder_.c_str(), ++number_, stops_.front().name.c_str());
     QPixmap picture(size_of_pictures);
     window_.render(&picture);
     if (!picture.save(shown(file))) fail("cannot write " + file);

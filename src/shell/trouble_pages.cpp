@@ -86,7 +86,8 @@ QLayout* numbered(int number, const char* text) {
     auto* const lines = new QVBoxLayout;
     lines->setContentsMargins(0, 4, 0, 0);
     lines->setSpacing(6);
-    for (const QString& line : QString::fromUtf8(text).split(u'\n')) lines->addLayout(one_line(line));
+    for (const QString& line : QString::fromUtf8(text).split(u'\n'))
+        lines->addLayout(one_line(line));
     row->addLayout(lines, 1);
     return row;
 }

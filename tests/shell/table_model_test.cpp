@@ -1,1 +1,94 @@
+#include "shell/table_model.h"
+
 #include <gtest/gtest.h>
+
+#include <QAbstractItemModelTester>
+#include <QSignalSpy>
+
+#include "window_test.h"
+
+namespace velk {
+namespace {
+
+struct Row {
+    std::string no, secret, name;
+    static const std::array<Row_Column<Row>, 3>& row_columns() {
+        static const std::array<Row_Column<Row>, 3> columns = {
+            {{{.identifier = "no", .title = "No.", .comparison = Comparison::number}, &Row::no},
+             {{.identifier = "secret", .title = "Secret", .hidden = true}, &Row::secret},
+             {{.identifier = "name", .title = "Name"}, &Row::name}}};
+        return columns;
+    }
+};
+
+class Table_Model_Test : public testing::Test {
+  protected:
+    void append(int count) {
+        for (int i = 0; i < count; ++i) {
+            rows.push_back({std::to_string(rows.size()), "hidden", "name"});
+            table.reload_appended();
+        }
+    }
+
+    QApplication& application = test_application();
+    Row_List<Row> rows;
+    Table table{"table", rows};
+    Table_Model model{table};
+    // Its complaints are warnings, which fail the test.
+    QAbstractItemModelTester tester{&model,
+                                    QAbstractItemModelTester::FailureReportingMode::Warning};
+};
+
+TEST_F(Table_Model_Test, tells_of_many_appended_rows_in_one_insertion) {
+    QSignalSpy insertions(&model, &QAbstractItemModel::rowsInserted);
+    append(3);
+    model.catch_up();
+    append(500);
+    EXPECT_EQ(model.rowCount(), 3);
+    model.catch_up();
+    EXPECT_EQ(model.rowCount(), 503);
+    EXPECT_EQ(insertions.count(), 2);
+}
+
+TEST_F(Table_Model_Test, does_not_read_rows_it_has_not_told_of_nor_rows_that_are_gone) {
+    append(5);
+    model.catch_up();
+    append(1);
+    EXPECT_FALSE(model.index(5, 0).isValid());
+    const QModelIndex last = model.index(4, 0);
+    rows.clear();
+    EXPECT_FALSE(model.data(last, Qt::DisplayRole).isValid());
+    EXPECT_FALSE(model.setData(last, "x", Qt::EditRole));
+}
+
+TEST_F(Table_Model_Test, starts_anew_after_a_reload_even_with_as_many_rows) {
+    append(2);
+    model.catch_up();
+    QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
+    rows.clear();
+    append(2);
+    table.reload();
+    model.catch_up();
+    model.catch_up();
+    EXPECT_EQ(resets.count(), 1);
+    EXPECT_EQ(model.rowCount(), 2);
+}
+
+TEST_F(Table_Model_Test, writes_an_edited_cell_into_its_field_behind_hidden_columns) {
+    append(2);
+    model.catch_up();
+    ASSERT_EQ(model.columnCount(), 2);
+    EXPECT_TRUE(model.setData(model.index(1, 1), QString::fromUtf8("Łódź"), Qt::EditRole));
+    EXPECT_EQ(rows[1].name, "Łódź");
+    EXPECT_EQ(rows[1].secret, "hidden");
+    EXPECT_EQ(rows[0].name, "name");
+}
+
+TEST_F(Table_Model_Test, shows_bytes_that_are_no_text_as_replacement_characters) {
+    rows.push_back({"1", "", "a\xff z"});
+    model.catch_up();
+    EXPECT_EQ(model.index(0, 1).data().toString(), QString::fromUtf8("a\uFFFD z"));
+}
+
+}  // namespace
+}  // namespace velk

@@ -14,8 +14,14 @@ namespace {
 
 using namespace velk;
 
-const char* const names[] = {"Ada Lindqvist", "محمد عبد الرحمن", "Øystein Ærø", "李小龙",
-                             "שלמה כהן",      "Анна Петрова",     "山田太郎",    "José Ñuñez",
+const char* const names[] = {"Ada Lindqvist",
+                             "محمد عبد الرحمن",
+                             "Øystein Ærø",
+                             "李小龙",
+                             "שלמה כהן",
+                             "Анна Петрова",
+                             "山田太郎",
+                             "José Ñuñez",
                              "A name that is far too long to fit into any column of a small window "
                              "and so has to end in an ellipsis somewhere before its end"};
 
@@ -50,8 +56,9 @@ class Photographer {
         take("2-connected");
         open_.click("m_BT_MyAndroid");
         take("3-summary");
-        open_.fill("A phone with a name that somebody made much too long for any window at all "
-                   "هاتف");
+        open_.fill(
+            "A phone with a name that somebody made much too long for any window at all "
+            "هاتف");
         take("3-summary-long");
         open_.fill("هاتف محمد الجديد");
         take("3-summary-rtl");

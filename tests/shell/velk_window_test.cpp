@@ -1,1 +1,160 @@
+#include "shell/velk_window.h"
+
 #include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QProgressBar>
+#include <QSignalSpy>
+#include <QTimer>
+#include <csignal>
+
+#include "shell/toolbar_button.h"
+#include "shell/unix_signals.h"
+#include "ui/program_wide.h"
+#include "ui/worker.h"
+#include "window_test.h"
+
+namespace velk {
+namespace {
+
+class Velk_Window_Test : public testing::Test {
+  protected:
+    QString text(const char* name) { return open.find<QLabel>(name)->text(); }
+
+    Open_Window open;
+    MainDocument& document = *open.document;
+};
+
+TEST_F(Velk_Window_Test, shows_every_value_of_a_phone_under_its_name) {
+    open.fill("Phone & <b>Co</b> \xff");
+    EXPECT_EQ(open.window->windowTitle(), "Velk");
+    EXPECT_EQ(text("m_LB_MobileName"), QString::fromUtf8("Phone & <b>Co</b> \uFFFD"));
+    EXPECT_EQ(open.find<QLabel>("m_LB_MobileName")->textFormat(), Qt::PlainText);
+    EXPECT_EQ(text("m_LB_SerialNumber"), "4df1a2b35c7e9d01");
+    EXPECT_EQ(open.find("m_LB_Size_PhoneTotal")->toolTip(), "5,000,000,000 bytes");
+    EXPECT_EQ(open.find<QAbstractButton>("m_BT_SMS")->text(), "SMS(1500)");
+    EXPECT_EQ(open.find<QProgressBar>("m_LevelIndicator_Size_Phone")->value(), 75);
+    EXPECT_EQ(open.find<QProgressBar>("m_Progress_Battery")->value(), 4);
+}
+
+TEST_F(Velk_Window_Test, draws_a_gauge_without_a_value_empty) {
+    for (const int value : {-1, -2147483647 - 1}) {
+        document.m_LevelIndicator_Size_Phone.set_value(value);
+        open.turn();
+        EXPECT_EQ(open.find<QProgressBar>("m_LevelIndicator_Size_Phone")->value(), 0);
+    }
+}
+
+TEST_F(Velk_Window_Test, draws_a_status_line_that_changes_often_only_as_often_as_it_is_seen) {
+    int drawn = 0;
+    Binding binding;
+    Label label("label");
+    QObject target;
+    binding.bind(label, &target, [&] { ++drawn; });
+    for (int i = 0; i < 20'000; ++i) label.set_text(std::to_string(i));
+    open.turn();
+    EXPECT_EQ(drawn, 2);
+}
+
+TEST_F(Velk_Window_Test, gives_the_room_to_the_summary_the_content_box_or_both) {
+    const auto shown = [&] {
+        open.turn();
+        return std::pair(open.find("m_Control_Box1") != nullptr,
+                         open.find("summary_page") != nullptr);
+    };
+    EXPECT_EQ(shown(), std::pair(true, true));
+    document.hidden_some(true);
+    EXPECT_EQ(shown(), std::pair(true, false));
+    const auto is_alone = [&](const char* name) {
+        return wait_until([&] { return open.find(name)->width() == open.window->width(); });
+    };
+    EXPECT_TRUE(is_alone("m_Control_Box1"));
+    document.hidden_some(false);
+    document.m_Control_Box1.put_in(nullptr);
+    EXPECT_EQ(shown(), std::pair(false, true));
+    EXPECT_TRUE(is_alone("summary_page"));
+}
+
+TEST_F(Velk_Window_Test, takes_the_captions_colour_from_the_document) {
+    const auto red_in = [&](const char* name) {
+        const QImage image = open.find(name)->grab().toImage();
+        int red = 0;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                red += image.pixelColor(x, y) == QColor(255, 0, 0);
+        return red;
+    };
+    document.setButtonColor(document.m_BT_Book, Colour{255, 0, 0});
+    open.turn();
+    EXPECT_GT(red_in("m_BT_Book"), 0);
+    document.m_BT_Book.set_title("Book");
+    open.turn();
+    EXPECT_EQ(red_in("m_BT_Book"), 0);
+}
+
+TEST_F(Velk_Window_Test, calls_the_documents_handlers_which_decide_what_happens) {
+    open.click("m_BT_Photo");
+    EXPECT_EQ(document.m_Control_Box1.view()->name(), "View_Start");
+    open.connect();
+    const std::pair<const char*, const char*> sections[] = {
+        {"m_BT_Contacts", "View_Contacts"}, {"m_BT_SMS", "View_SMS"},
+        {"m_BT_Apps", "View_App"},          {"m_BT_Music", "View_Music"},
+        {"m_BT_Photo", "View_Photo"},       {"m_BT_Video", "View_Video"},
+        {"m_BT_Book", "View_Book"}};
+    for (const auto& [button, view] : sections) {
+        open.click(button);
+        ASSERT_TRUE(open.find(view)) << view;
+        EXPECT_TRUE(open.find<Toolbar_Button>(button)->current()) << button;
+    }
+    open.click("m_BT_MyAndroid");
+    EXPECT_FALSE(open.find("m_Control_Box1"));
+    EXPECT_TRUE(open.find<Toolbar_Button>("m_BT_MyAndroid")->current());
+    open.click("m_BT_Bottom_Contacts");
+    EXPECT_TRUE(open.find("View_Contacts"));
+}
+
+TEST_F(Velk_Window_Test, disables_refresh_while_an_attempt_runs_and_brings_it_back) {
+    open.click("OnBT_Refresh");
+    EXPECT_FALSE(open.find("OnBT_Refresh")->isEnabled());
+    EXPECT_TRUE(wait_until([&] { return open.find("OnBT_Refresh")->isEnabled(); }));
+    EXPECT_EQ(g_can_click_refresh, 1);
+}
+
+TEST_F(Velk_Window_Test, says_what_it_waits_for_beside_the_status_line) {
+    document.m_LB_ps.set_text("status");
+    const int wait = document.busy.begin("Waiting for the phone: battery");
+    open.turn();
+    EXPECT_EQ(text("m_LB_ps"), "status");
+    EXPECT_EQ(text("m_LB_Busy"), "Waiting for the phone: battery");
+    document.busy.end(wait);
+    open.turn();
+    EXPECT_EQ(text("m_LB_Busy"), "");
+}
+
+TEST_F(Velk_Window_Test, is_gone_from_the_screen_at_once_and_ends_in_time_while_work_runs) {
+    Worker::start("slow", [&] { open.desktop.sleep(60); });
+    QElapsedTimer time;
+    QTimer::singleShot(0, open.window.get(), [&] {
+        time.start();
+        open.window->close();
+        EXPECT_FALSE(open.window->isVisible());
+        EXPECT_FALSE(open.desktop.closing());
+    });
+    EXPECT_EQ(QApplication::exec(), 0);
+    EXPECT_LT(time.elapsed(), 2000);
+    EXPECT_TRUE(open.desktop.closing());
+}
+
+TEST_F(Velk_Window_Test, closes_when_the_system_asks_the_program_to_end) {
+    for (const int number : {SIGTERM, SIGHUP}) {
+        int asked = 0;
+        const Unix_Signals ending([&] { ++asked; });
+        std::raise(number);
+        EXPECT_TRUE(wait_until([&] { return asked == 1; }));
+    }
+}
+
+}  // namespace
+}  // namespace velk

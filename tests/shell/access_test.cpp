@@ -1,0 +1,109 @@
+// Everything on the window can be reached with the keyboard and has a name to be told.
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QApplication>
+#include <QLabel>
+#include <QStringList>
+
+#include "shell/text_label.h"
+#include "window_test.h"
+
+namespace velk {
+namespace {
+
+QString name_of(QWidget* widget) {
+    QAccessibleInterface* const told = QAccessible::queryAccessibleInterface(widget);
+    return told ? told->text(QAccessible::Name) : QString();
+}
+
+/// The controls that Tab leads through, from the first to where it starts again.
+QStringList tab_path(QWidget& window) {
+    QStringList path;
+    window.setFocus();
+    QTest::keyClick(&window, Qt::Key_Tab);
+    QWidget* const first = window.focusWidget();
+    do {
+        path << window.focusWidget()->objectName();
+        QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
+    } while (window.focusWidget() != first && path.size() < 100);
+    return path;
+}
+
+const QStringList toolbar = {"m_BT_MyAndroid", "m_BT_Contacts", "m_BT_SMS",   "m_BT_Apps",
+                             "m_BT_Music",     "m_BT_Photo",    "m_BT_Video", "m_BT_Book"};
+
+class Access : public testing::Test {
+  protected:
+    Access() {
+        open.fill();
+        open.connect();
+    }
+    void every_control_has_a_name() {
+        for (auto* const widget : open.window->findChildren<QWidget*>())
+            if (widget->isVisible() && (widget->focusPolicy() & Qt::TabFocus)) {
+                EXPECT_FALSE(name_of(widget).isEmpty()) << widget->objectName().toStdString();
+            }
+        for (auto* const label : open.window->findChildren<QLabel*>())
+            if (label->isVisible()) {
+                EXPECT_EQ(name_of(label), label->text());
+            }
+    }
+    /// Elided labels say the rest in their tool tip; everything else must have its room.
+    void nothing_is_clipped() {
+        for (auto* const widget : open.window->findChildren<QWidget*>()) {
+            const auto* const label = qobject_cast<QLabel*>(widget);
+            const bool has_text = label ? !label->text().isEmpty()
+                                        : qobject_cast<QAbstractButton*>(widget) != nullptr;
+            if (!widget->isVisible() || !has_text || qobject_cast<Text_Label*>(widget)) continue;
+            const int width = widget->width();
+            const int needed = widget->hasHeightForWidth() ? widget->heightForWidth(width)
+                                                           : widget->sizeHint().height();
+            EXPECT_GE(widget->height(), needed) << widget->objectName().toStdString();
+            if (!widget->hasHeightForWidth()) {
+                EXPECT_GE(width, widget->sizeHint().width()) << widget->objectName().toStdString();
+            }
+        }
+    }
+    void check_page(const QStringList& controls) {
+        open.turn();
+        every_control_has_a_name();
+        EXPECT_EQ(tab_path(*open.window), toolbar + controls);
+        for (const QSize size : {QSize(900, 600), QSize(1920, 1080)}) {
+            open.window->resize(size);
+            open.turn();
+            EXPECT_EQ(open.window->size(), size);
+            nothing_is_clipped();
+        }
+    }
+
+    Open_Window open;
+};
+
+TEST_F(Access, start_page_beside_the_summary) {
+    check_page({"OnBT_Refresh", "m_BT_Refresh", "m_BT_Bottom_Contacts", "m_BT_Bottom_SMS",
+                "m_BT_Bottom_Apps"});
+}
+
+TEST_F(Access, contacts) {
+    open.click("m_BT_Contacts");
+    check_page({"OnBT_Contacts_Refresh", "m_table_Contacts"});
+    EXPECT_EQ(name_of(open.find("m_table_Contacts")), "Contacts");
+    for (const char* status : {"m_LB_ps", "m_LB_Tips_Contacts"})
+        EXPECT_EQ(open.find(status)->accessibleDescription(), "Status");
+}
+
+TEST_F(Access, allow_pc) {
+    open.document->show_allow_pc_connect_view();
+    open.document->hidden_some(true);
+    check_page({"OnBT_Refresh", "trouble_scroll"});
+}
+
+TEST_F(Access, usb_debugging) {
+    open.document->show_setting_phone_usb_view();
+    open.document->hidden_some(true);
+    check_page({"OnBT_Refresh", "trouble_scroll"});
+}
+
+}  // namespace
+}  // namespace velk

@@ -1,0 +1,67 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QTimer>
+#include <atomic>
+
+#include "ui/worker.h"
+#include "window_test.h"
+
+namespace velk {
+namespace {
+
+const Alert question{.title = "Information",
+                     .text = "Are you <b>sure</b>?",
+                     .buttons = {"Yes", "No"},
+                     .default_button = 0,
+                     .escape_button = 1};
+
+constexpr int not_answered = -1;
+
+class Alert_Test : public testing::Test {
+  protected:
+    void ask_from_a_worker() {
+        Worker::start("asking", [this] { answer = open.desktop.run_alert(question); });
+        ASSERT_TRUE(wait_until([this] { return box() != nullptr; }));
+    }
+    QMessageBox* box() { return open.window->findChild<QMessageBox*>(); }
+    bool is_answered() {
+        return wait_until([this] { return answer != not_answered; });
+    }
+
+    Open_Window open;
+    std::atomic<int> answer = not_answered;
+};
+
+TEST_F(Alert_Test, gives_the_asking_worker_the_pressed_button_and_holds_nobody_else) {
+    ask_from_a_worker();
+    EXPECT_EQ(box()->windowTitle(), "Information");
+    EXPECT_EQ(box()->text(), "Are you <b>sure</b>?");
+    EXPECT_EQ(box()->textFormat(), Qt::PlainText);
+    bool ran = false;
+    open.desktop.post([&] { ran = true; });
+    EXPECT_TRUE(wait_until([&] { return ran; }));
+    EXPECT_EQ(answer, not_answered);
+    QTest::mouseClick(box()->buttons().at(0), Qt::LeftButton);
+    EXPECT_TRUE(is_answered());
+    EXPECT_EQ(answer, 0);
+}
+
+TEST_F(Alert_Test, counts_escape_as_its_own_button) {
+    ask_from_a_worker();
+    QTest::keyClick(box(), Qt::Key_Escape);
+    EXPECT_TRUE(is_answered());
+    EXPECT_EQ(answer, 1);
+}
+
+TEST_F(Alert_Test, lets_the_asking_worker_go_when_the_window_closes) {
+    ask_from_a_worker();
+    QTimer::singleShot(0, open.window.get(), [this] { open.window->close(); });
+    EXPECT_EQ(QApplication::exec(), 0);
+    EXPECT_EQ(answer, 1);
+    EXPECT_EQ(Worker::running(), 0);
+}
+
+}  // namespace
+}  // namespace velk

@@ -1,0 +1,152 @@
+#include "shell/row_table.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QClipboard>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QScrollBar>
+
+#include "managers/contacts_tablesource.h"
+#include "shell/section_page.h"
+#include "ui/program_wide.h"
+#include "window_test.h"
+
+namespace velk {
+namespace {
+
+class Row_Table_Test : public testing::Test {
+  protected:
+    Row_Table_Test() {
+        open.connect();
+        open.click("m_BT_Contacts");
+        for (const char* name : {"Berta", "Adam", "Cäsar"}) append(name);
+        open.turn();
+        view = open.find<QTableView>("m_table_Contacts");
+        view->setFocus();
+    }
+
+    void append(const std::string& name) {
+        const std::string number = std::to_string(contacts.table_rows.size() + 1);
+        contacts.table_rows.push_back({number, "9" + number, name, "555-" + number});
+        contacts.m_table.reload_appended();
+        contacts.m_table.scroll_to_last();
+    }
+    void click_cell(int row, Qt::KeyboardModifiers keys = Qt::NoModifier) {
+        const QRect cell = view->visualRect(view->model()->index(row, 2));
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, keys, cell.center());
+    }
+    void click_header(int column) {
+        QHeaderView* const header = view->horizontalHeader();
+        QTest::mouseClick(header->viewport(), Qt::LeftButton, Qt::NoModifier,
+                          QPoint(header->sectionViewportPosition(column) + 20, 8));
+    }
+    std::string names() const {
+        std::string all;
+        for (const auto& row : contacts.table_rows) all += row.col_name + " ";
+        return all;
+    }
+
+    Open_Window open;
+    Contacts_TableSource& contacts = *g_contacts_tablesource;
+    QTableView* view = nullptr;
+};
+
+TEST_F(Row_Table_Test, reports_the_selection_and_which_row_was_selected_last) {
+    click_cell(2);
+    click_cell(0, Qt::ControlModifier);
+    EXPECT_EQ(contacts.m_table.selected_rows(), (std::vector<int>{0, 2}));
+    EXPECT_EQ(contacts.selected_row, 0);
+    QTest::keyClick(view, Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(contacts.m_table.selected_rows().size(), 3U);
+    click_cell(0, Qt::ControlModifier);
+    EXPECT_EQ(contacts.m_table.selected_rows(), (std::vector<int>{1, 2}));
+}
+
+TEST_F(Row_Table_Test, forgets_a_selection_of_rows_that_were_replaced) {
+    click_cell(2);
+    contacts.table_rows.clear();
+    contacts.m_table.reload();
+    EXPECT_EQ(contacts.selected_row, -1);
+    // A late click, before the view has drawn the other rows, selects none of the old ones.
+    click_cell(1);
+    EXPECT_TRUE(contacts.m_table.selected_rows().empty());
+    open.turn();
+    EXPECT_EQ(view->model()->rowCount(), 0);
+}
+
+TEST_F(Row_Table_Test, sorts_the_rows_themselves_and_nothing_that_comes_later) {
+    click_header(2);
+    EXPECT_EQ(names(), "Adam Berta Cäsar ");
+    EXPECT_TRUE(view->horizontalHeader()->isSortIndicatorShown());
+    click_header(2);
+    EXPECT_EQ(names(), "Cäsar Berta Adam ");
+    append("Aaron");
+    open.turn();
+    EXPECT_EQ(names(), "Cäsar Berta Adam Aaron ");
+    EXPECT_FALSE(view->horizontalHeader()->isSortIndicatorShown());
+    EXPECT_EQ(view->model()->index(3, 2).data().toString(), "Aaron");
+}
+
+TEST_F(Row_Table_Test, copies_the_selected_cells_as_lines_with_tabs) {
+    contacts.table_rows[1].col_name = "two\nlines\tand a tab";
+    QTest::keyClick(view, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(view, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text().toStdString(),
+              "1\t91\tBerta\t555-1\n2\t92\ttwo lines and a tab\t555-2\n3\t93\tCäsar\t555-3\n");
+}
+
+TEST_F(Row_Table_Test, keeps_the_last_row_in_sight_while_rows_are_appended) {
+    for (int i = 0; i < 200; ++i) append("row");
+    open.turn();
+    EXPECT_EQ(view->verticalScrollBar()->value(), view->verticalScrollBar()->maximum());
+    EXPECT_GT(view->verticalScrollBar()->maximum(), 0);
+}
+
+TEST_F(Row_Table_Test, writes_an_open_editor_into_its_cell_when_another_view_is_shown) {
+    view->setCurrentIndex(view->model()->index(1, 2));
+    QTest::keyClick(view, Qt::Key_F2);
+    auto* const editor = view->findChild<QLineEdit*>();
+    ASSERT_TRUE(editor);
+    editor->setText("Emil");
+    open.document->displayViewController(DEFINE_VIEW_SMS);
+    EXPECT_EQ(contacts.table_rows[1].col_name, "Emil");
+    EXPECT_EQ(contacts.table_rows[1].col_phone_number, "555-2");
+}
+
+TEST(Section_Page, runs_the_delete_command_by_its_key_only_while_it_may_run) {
+    const Open_Window open;
+    Row_List<Contacts_TableSource_Column> rows;
+    Table table("table", rows);
+    Label status("status");
+    Flag guard = 1;
+    int runs = 0;
+    Section section{.title = "Things",
+                    .empty_text = "Things",
+                    .table = &table,
+                    .status = &status,
+                    .commands = {{.name = "OnBT_Del",
+                                  .caption = "Delete",
+                                  .icon = "delete",
+                                  .run = [&] { ++runs, guard = 0; },
+                                  .guard = &guard}}};
+    Binding binding;
+    Guards guards;
+    Section_Page page(section, {*open.document, binding, guards});
+    page.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&page));
+    auto* const view = page.findChild<QTableView*>();
+    view->setFocus();
+    QTest::keyClick(view, Qt::Key_Delete);
+    QTest::keyClick(view, Qt::Key_Delete);
+    EXPECT_EQ(runs, 1);
+    EXPECT_FALSE(page.findChild<QAbstractButton*>("OnBT_Del")->isEnabled());
+    guard = 1;
+    guards.look_again();
+    QTest::keyClick(view, Qt::Key_Delete);
+    EXPECT_EQ(runs, 2);
+}
+
+}  // namespace
+}  // namespace velk
