@@ -15,7 +15,7 @@ packages=(
     adb                              # talks to the phone
     libgtest-dev libgmock-dev        # the tests
     # Names on a phone come in every script; a bare system cannot draw any.
-    fonts-dejavu-core fonts-wqy-microhei fonts-noto-core
+    fonts-dejavu-core fonts-noto-core fonts-wqy-microhei fonts-noto-color-emoji
 )
 case "${1:-}" in
     '') ;;
