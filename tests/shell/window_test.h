@@ -45,7 +45,7 @@ class Open_Window {
     /// As after a connection: the sections open, and nothing is loaded again.
     void connect();
     /// A phone's values in every outlet.
-    void fill(const std::string& phone_name = "Galaxy Note 3");
+    void fill(const std::string& phone_name = "Moss Phone 3");
 
     Qt_Desktop desktop;
     std::unique_ptr<MainDocument> document;

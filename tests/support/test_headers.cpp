@@ -1,0 +1,1 @@
+// The headers that all tests share are read once, for this file.
