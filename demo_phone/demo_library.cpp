@@ -60,7 +60,7 @@ bool add_photo(Phone_Store& store, Phone_Storage& storage, std::size_t index, bo
     Phone_Media media;
     media.kind = Media_Kind::photo;
     media.path = std::string("/sdcard/photo/") + name;
-    if (index % 3 == 2) media.path += " " + std::string(pick(demo_photo_subjects(), index / 3));
+    if (index % 3 == 2) media.path.append(" ").append(pick(demo_photo_subjects(), index / 3));
     media.path += ".png";
     const std::size_t width = small ? 8 : 96 + index * 8 % 56;
     const std::size_t height = small ? 6 : width * 3 / 4;

@@ -19,7 +19,7 @@ std::string name_in(const Demo_Language& language, std::size_t number) {
     // Behind each round of given names the family names move on, so that pairs repeat late.
     std::string family(pick(language.family, number + number / givens));
     const std::size_t round = number / (givens * language.family.size());
-    if (round > 0) family += " " + std::to_string(round + 1);
+    if (round > 0) family.append(" ").append(std::to_string(round + 1));
     const std::string between(language.between);
     return language.family_first ? family + between + given : given + between + family;
 }
@@ -51,7 +51,7 @@ std::string message_text(const Demo_Language& language, std::size_t number) {
     const std::string_view greeting = pick(language.greetings, number / 2);
     const std::string_view closing = pick(language.closings, number / 3);
     if (number % 3 != 0) text = std::string(greeting) + " " + text;
-    if (number % 4 == 1 && !closing.empty()) text += " " + std::string(closing);
+    if (number % 4 == 1 && !closing.empty()) text.append(" ").append(closing);
     return text;
 }
 

@@ -73,8 +73,9 @@ std::string describe_reply(const Phone_Behaviour& behaviour) {
     for (const Reply_Word& known : reply_words) {
         if (known.reply != behaviour.reply) continue;
         std::string text(known.word);
-        if (known.takes_bytes) text += ":" + std::to_string(behaviour.reply_bytes);
-        if (known.reply == Reply::split) text += ":" + std::to_string(behaviour.pause.count());
+        if (known.takes_bytes) text.append(":").append(std::to_string(behaviour.reply_bytes));
+        if (known.reply == Reply::split)
+            text.append(":").append(std::to_string(behaviour.pause.count()));
         return text + ",";
     }
     return "";

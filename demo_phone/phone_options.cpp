@@ -103,7 +103,7 @@ bool read_tell(Phone_Options& options, int count, char** words, int position) {
     if (position + 2 >= count) return complain("needs a socket and a command", "--tell");
     options.tell_path = words[position + 1];
     for (int i = position + 2; i < count; ++i)
-        options.tell_line += (i > position + 2 ? " " : "") + std::string(words[i]);
+        options.tell_line.append(i > position + 2 ? " " : "").append(words[i]);
     return true;
 }
 
@@ -142,7 +142,8 @@ std::string phone_help() {
         "Reach it with: adb connect 127.0.0.1:N, or let it announce itself (--announce).\n\n"
         "Options:\n";
     for (const Option& option : option_table) {
-        std::string left = "  " + std::string(option.name) + " " + std::string(option.value);
+        std::string left = "  ";
+        left.append(option.name).append(" ").append(option.value);
         left.resize(std::max<std::size_t>(left.size() + 1, 27), ' ');
         text += left + std::string(option.help) + "\n";
     }
