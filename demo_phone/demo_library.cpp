@@ -36,17 +36,17 @@ bool enter(Phone_Store& store, Phone_Storage& storage, Phone_Media media, std::s
 }
 
 bool add_song(Phone_Store& store, Phone_Storage& storage, std::size_t index, bool small) {
-    const std::string artist(pick(demo_artists(), index / 4));
-    const std::size_t ends = demo_song_ends().size();
-    const std::string title = std::string(pick(demo_song_starts(), index)) + " " +
-                              std::string(pick(demo_song_ends(), index * 5 + index / ends)) +
-                              round_mark(index, demo_song_starts().size() * ends);
+    const auto bands = demo_bands();
+    constexpr std::size_t songs = std::size(Demo_Band{}.songs);
+    const Demo_Band& band = bands[index / songs % bands.size()];
+    const std::string title =
+        std::string(band.songs[index % songs]) + round_mark(index, bands.size() * songs);
     const std::size_t seconds = small ? 1 + index % 3 : 95 + index * 37 % 190;
     Phone_Media media;
     media.kind = Media_Kind::music;
-    media.artist = artist;
-    media.album = pick(demo_albums(), index / 8);
-    media.path = "/sdcard/music/" + artist + "/" + title + ".wav";
+    media.artist = band.name;
+    media.album = band.album;
+    media.path = "/sdcard/music/" + media.artist + "/" + title + ".wav";
     media.duration = static_cast<int>(seconds * 1000);
     media.ring = index % 15 == 14;
     return enter(store, storage, media, index,
@@ -108,13 +108,9 @@ bool add_book(Phone_Store& store, Phone_Storage& storage, std::size_t index, boo
 }
 
 void add_app(Phone_Store& store, std::size_t index) {
-    const Demo_Words adjectives = demo_app_adjectives();
-    const Demo_Words nouns = demo_app_nouns();
-    const std::size_t period = adjectives.size() * nouns.size();
+    const Demo_Words names = demo_app_names();
     Phone_App app;
-    app.name = std::string(pick(adjectives, index)) + " " +
-               std::string(pick(nouns, index * 5 + index / adjectives.size())) +
-               round_mark(index, period);
+    app.name = std::string(pick(names, index)) + round_mark(index, names.size());
     app.package = "demo.app" + std::to_string(index + 1) + ".main";
     app.version = std::to_string(1 + index % 4) + "." + std::to_string(index * 3 % 10) + "." +
                   std::to_string(index * 7 % 10);

@@ -46,21 +46,35 @@ std::string contact_number(std::size_t index) {
     return std::string(languages[index % languages.size()].country) + digits;
 }
 
+/// Marks that are as wide as a letter bring their own blank.
+bool ends_in_wide_mark(std::string_view text) {
+    for (const std::string_view mark : {"，", "。", "！"})
+        if (text.ends_with(mark)) return true;
+    return false;
+}
+
+void append_sentence(std::string& text, std::string_view sentence) {
+    if (!text.empty() && !sentence.empty() && !ends_in_wide_mark(text)) text += ' ';
+    text += sentence;
+}
+
 std::string message_text(const Demo_Language& language, std::size_t number) {
-    std::string text(pick(language.sentences, number));
-    const std::string_view greeting = pick(language.greetings, number / 2);
-    const std::string_view closing = pick(language.closings, number / 3);
-    if (number % 3 != 0) text = std::string(greeting) + " " + text;
-    if (number % 4 == 1 && !closing.empty()) text.append(" ").append(closing);
+    std::string text;
+    if (number % 3 != 0) append_sentence(text, pick(language.greetings, number / 2));
+    append_sentence(text, pick(language.sentences, number));
+    if (number % 4 == 1) append_sentence(text, pick(language.closings, number / 3));
     return text;
 }
 
-/// Messages of one phone: a steady stream that ends on a day in spring, `left` steps before it.
+/// Seven messages a day while people are awake; the last of all, with none `left` behind it, came
+/// on a spring evening.
 std::string message_date(std::size_t left) {
-    constexpr std::time_t last = 1716211800;  // 20 May 2024
-    constexpr std::time_t step = 3 * 3600 + 1740;
-    const std::time_t moment =
-        last - static_cast<std::time_t>(left) * step - static_cast<std::time_t>(left * left % 3001);
+    constexpr std::time_t last_evening = 1716242100;  // 20 May 2024, 21:55
+    constexpr std::time_t minutes_before[] = {0, 130, 285, 445, 590, 735, 845};
+    constexpr std::size_t a_day = std::size(minutes_before);
+    const std::time_t moment = last_evening - static_cast<std::time_t>(left / a_day) * 86400 -
+                               minutes_before[left % a_day] * 60 -
+                               static_cast<std::time_t>(left * left % 3001);
     std::tm parts{};
     gmtime_r(&moment, &parts);
     char text[32];

@@ -22,29 +22,33 @@ constexpr Word special_names[] = {
     "Zażółć Gęślą-Jaźń",
 };
 
-constexpr Word artists[] = {"The Paper Lanterns",
-                            "Nordlicht Quartett",
-                            "Les Cerfs-volants",
-                            "Полярная Сова",
-                            "Κύματα",
-                            "نجوم الصحراء",
-                            "שירת הגל",
-                            "竹林乐队",
-                            "夜汽車",
-                            "달빛 정거장",
-                            "मानसून",
-                            "ดาวเหนือ",
-                            "Ølstrøm",
-                            "Čaroděj & Synové",
-                            "Marigold Ferry"};
-constexpr Word song_starts[] = {"Morning", "Silver", "Zweite",  "Petite", "Тихая",
-                                "Αργή",    "ليلة",   "אור",     "春天的", "青い",
-                                "푸른",    "नीला",   "เพลงของ", "Quiet",  "Thousand"};
-constexpr Word song_ends[] = {"Harbour", "Rain",    "Straße", "Lumière",    "река",       "θάλασσα",
-                              "القمر",   "הים",     "河流",   "空",         "바다",       "आकाश",
-                              "สายฝน",   "Windows", "Steps",  "Kites 🪁", "Waltz No. 3"};
-constexpr Word albums[] = {"First Light", "Zwischen den Jahren", "Окна",
-                           "星図",        "Postcards",           "Live at the Old Mill"};
+constexpr Demo_Band bands[] = {
+    {"The Paper Lanterns",
+     "First Light",
+     {"Harbour at Six", "Silver Rain", "Thousand Windows", "Home by Tram"}},
+    {"Nordlicht Quartett",
+     "Zwischen den Jahren",
+     {"Späte Straße", "Zweiter Schnee", "Kleiner Walzer", "Über die Brücke"}},
+    {"Les Cerfs-volants",
+     "Cartes postales",
+     {"Petite lumière", "L'été des horloges", "Sans parapluie", "Rue des Érables"}},
+    {"Полярная Сова", "Окна", {"Тихая река", "Первый снег", "Ночной трамвай", "Письмо"}},
+    {"Κύματα", "Νησιά", {"Αργή θάλασσα", "Ο φάρος", "Καλοκαίρι", "Το τελευταίο πλοίο"}},
+    {"نجوم الصحراء", "ليالي", {"ليلة القمر", "طريق النخيل", "رسالة", "مطر الصيف"}},
+    {"שירת הגל", "חלון לים", {"אור ראשון", "שיר הגשם", "הדרך הביתה", "לילה טוב"}},
+    {"竹林乐队", "春天的河", {"春天的河流", "茶馆", "月光小路", "再见夏天"}},
+    {"夜汽車", "星図", {"青い空", "最後の駅", "雨のワルツ", "カモメ"}},
+    {"달빛 정거장", "푸른 밤", {"푸른 바다", "막차", "편지", "첫눈"}},
+    {"मानसून", "बरसात", {"नीला आकाश", "पहली बारिश", "नाव", "घर की ओर"}},
+    {"ดาวเหนือ", "สายลม", {"เพลงของสายฝน", "แสงจันทร์", "ทางกลับบ้าน", "ตลาดเช้า"}},
+    {"Ølstrøm", "Fjordlys", {"Blå time", "Håndskrift", "Sne på taget", "Færgen"}},
+    {"Čaroděj & Synové",
+     "Půlnoční kolotoč",
+     {"Žluťoučký kůň", "Říční píseň", "Třetí sloka", "Šepot"}},
+    {"Marigold Ferry",
+     "Live at the Old Mill",
+     {"Quiet Steps", "Kites 🪁", "Waltz No. 3", "Goodnight, Lighthouse"}},
+};
 
 constexpr Word photo_subjects[] = {"beach",  "Geburtstag", "forêt",  "дача",   "ηλιοβασίλεμα",
                                    "حديقة",  "חוף",        "山顶",   "桜",     "가을",
@@ -66,10 +70,13 @@ constexpr Word book_titles[] = {"A Short History of Umbrellas",
                                 "मिट्टी की खुशबू",
                                 "Cooking for Two on a Boat"};
 
-constexpr Word app_adjectives[] = {"Pocket", "Night",  "Tiny",  "Quick", "Paper", "Blue",
-                                   "Cosy",   "Kleine", "Умный", "简单",  "Petit", "Open"};
-constexpr Word app_nouns[] = {"Weather", "Compass", "Piano", "Ledger", "Sudoku", "Recipes",
-                              "Torch",   "Карты",   "日历",  "Runner", "Radio",  "Garden"};
+constexpr Word app_names[] = {
+    "Pocket Weather", "Night Compass", "Tiny Piano",      "Quick Ledger", "Paper Sudoku",
+    "Blue Torch",     "Cosy Recipes",  "Kleiner Gärtner", "Умная карта",  "简单日历",
+    "Petit Jardin",   "Open Radio",    "雪の温度計",      "버스 시간표",  "Mein Fahrplan",
+    "Σημειώσεις",     "مفكرتي",        "לוח שנה",         "रसोई",         "นาฬิกาปลุก",
+    "Tide Table",     "Chess by Mail", "Bird Songs",      "Step Counter", "Sketch Pad",
+    "Coin Purse",     "Star Chart",    "Bread Timer",     "Word Ladder",  "Photo Frame 🖼️"};
 
 }  // namespace
 
@@ -77,20 +84,8 @@ Demo_Words demo_special_names() {
     return special_names;
 }
 
-Demo_Words demo_artists() {
-    return artists;
-}
-
-Demo_Words demo_song_starts() {
-    return song_starts;
-}
-
-Demo_Words demo_song_ends() {
-    return song_ends;
-}
-
-Demo_Words demo_albums() {
-    return albums;
+std::span<const Demo_Band> demo_bands() {
+    return bands;
 }
 
 Demo_Words demo_photo_subjects() {
@@ -105,12 +100,8 @@ Demo_Words demo_book_titles() {
     return book_titles;
 }
 
-Demo_Words demo_app_adjectives() {
-    return app_adjectives;
-}
-
-Demo_Words demo_app_nouns() {
-    return app_nouns;
+Demo_Words demo_app_names() {
+    return app_names;
 }
 
 }  // namespace velk

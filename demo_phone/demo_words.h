@@ -26,15 +26,19 @@ std::span<const Demo_Language> demo_languages();
 /// Contacts that are no plain names: with pictures, very long, with marks that files care about.
 Demo_Words demo_special_names();
 
-Demo_Words demo_artists();
-Demo_Words demo_song_starts();
-Demo_Words demo_song_ends();
-Demo_Words demo_albums();
+/// A band, its one record, and the songs on it.
+struct Demo_Band {
+    std::string_view name;
+    std::string_view album;
+    std::string_view songs[4];
+};
+
+std::span<const Demo_Band> demo_bands();
+
 Demo_Words demo_photo_subjects();
 Demo_Words demo_video_titles();
 Demo_Words demo_book_titles();
-Demo_Words demo_app_adjectives();
-Demo_Words demo_app_nouns();
+Demo_Words demo_app_names();
 
 /// The word at `index`, beginning anew at the end.
 inline std::string_view pick(Demo_Words words, std::size_t index) {

@@ -54,7 +54,8 @@ class Install_Service : public Phone_Service {
         : phone_(phone),
           missing_(size),
           name_("Package of " + std::to_string(size) + " bytes"),  // its own name stays behind
-          file_(phone.storage.real_path(g_file).value_or(""), std::ios::binary | std::ios::trunc) {}
+          file_(phone.storage.real_path(landing_place).value_or(""),
+                std::ios::binary | std::ios::trunc) {}
 
     void received(std::string_view bytes, Phone_Outlet& outlet) override {
         if (missing_ == 0) return;
@@ -64,13 +65,13 @@ class Install_Service : public Phone_Service {
         missing_ -= wanted.size();
         if (missing_ > 0) return;
         file_.close();
-        outlet.send(install_package(phone_, g_file, name_));
-        phone_.storage.remove(g_file);
+        outlet.send(install_package(phone_, landing_place, name_));
+        phone_.storage.remove(landing_place);
         outlet.finish();
     }
 
   private:
-    static constexpr const char* g_file = "/data/local/tmp/streamed.apk";
+    static constexpr const char* landing_place = "/data/local/tmp/streamed.apk";
 
     Demo_Phone& phone_;
     std::uint64_t missing_;
