@@ -83,7 +83,6 @@ int main(int argument_count, char** arguments) {
     velk::Qt_Desktop desktop;
     velk::MainDocument document(desktop);
     velk::Velk_Window window(document, desktop);
-    document.windowControllerDidLoadNib();
     window.resize(1280, 800);
     window.show();
     document.hidden_some(true);

@@ -135,6 +135,7 @@ int cannot_run(const std::string& program) {
 }  // namespace
 
 int run_child(const Child_Command& command, const Child_Listener& listener) {
+    if (Interruptor::current().cancelled()) return status_of_the_first_signal + SIGTERM;
     const std::string& program = command.words.front();
     std::array<int, 2> ends{};
     if (::access(program.c_str(), X_OK) != 0 || ::pipe2(ends.data(), O_CLOEXEC) != 0)

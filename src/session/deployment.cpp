@@ -23,7 +23,10 @@ void MainDocument::adb_basic_informatin(const std::string&) {
     Busy_Note note(desktop_, busy, "Removing earlier agents from the phone");
     const std::string directory = get_current_app_path();
     if (!g_b_debug_del_all_apk_installapk)
-        for (const char* package : agent_packages) adb_uninstall_apk(package);
+        for (const char* package : agent_packages) {
+            if (desktop_.closing()) return;
+            adb_uninstall_apk(package);
+        }
 
     note.say("Installing the agent on the phone");
     if (!g_b_debug_del_apk_installapk) {
@@ -33,12 +36,14 @@ void MainDocument::adb_basic_informatin(const std::string&) {
     }
     show(m_LB_ps, "Launching the application on your phone...");
 
+    if (desktop_.closing()) return;
     note.say("Starting the agent on the phone");
     adb_run_apk(desktop_.ask([this] { return m_str_apk_name_run; }));
     show(m_LB_ps, "Start communicating ...");
     adb_broadcast();
     adb_tcp_in_mobile_phone_all();
 
+    if (desktop_.closing()) return;
     show(m_LB_ps, "Retrieving mobile phone basic information.");
     get_mobile_basic_information(note);
     on_window([this] {

@@ -27,13 +27,13 @@ int storage_gauge(double total, double free) {
 }
 
 std::string exact_bytes(const std::string& decimal) {
-    const std::size_t digits_at = decimal.rfind('-', 0) == 0 ? 1 : 0;
-    const std::size_t end =
-        std::min(decimal.find_first_not_of("0123456789", digits_at), decimal.size());
-    if (end == digits_at) return "";
-    std::string number = decimal.substr(0, end);
-    for (std::size_t at = end; at > digits_at + 3;) number.insert(at -= 3, ",");
-    return number + " bytes";
+    const std::size_t start = std::min(decimal.find_first_not_of(" +-"), decimal.size());
+    std::string digits = decimal.substr(start);
+    digits.resize(std::min(digits.find_first_not_of("0123456789"), digits.size()));
+    if (digits.empty()) return "";
+    for (std::size_t at = digits.size(); at > 3;) digits.insert(at -= 3, ",");
+    const bool negative = start > 0 && decimal[start - 1] == '-';
+    return (negative ? "-" : "") + digits + " bytes";
 }
 
 /// Asks the phone for one value at a time, on a worker.

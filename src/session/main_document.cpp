@@ -1,11 +1,9 @@
 #include "session/main_document.h"
 
 #include <chrono>
-#include <cstdlib>
 #include <future>
 
 #include "agent/sock_apk.h"
-#include "base/trace.h"
 #include "session/view_contacts.h"
 #include "ui/program_wide.h"
 #include "ui/worker.h"
@@ -67,6 +65,7 @@ void MainDocument::windowControllerDidLoadNib() {
 
 void MainDocument::windowWillClose() {
     desktop_.close_gate();
+    Worker::interrupt_all();  // an attempt under way must not speak to the phone after the goodbye
     const auto answered = std::make_shared<std::promise<void>>();
     const std::future<void> answer = answered->get_future();
     Worker::start("last request", [answered] {
@@ -74,11 +73,7 @@ void MainDocument::windowWillClose() {
         answered->set_value();
     });
     answer.wait_for(time_for_the_last_request);
-    if (!Worker::stop_all(time_for_the_workers)) {
-        // Something outside does not let go; what it holds must not outlive the window.
-        flush_trace();
-        std::_Exit(EXIT_SUCCESS);
-    }
+    Worker::stop_all(time_for_the_workers);
     desktop_.terminate();
 }
 

@@ -65,7 +65,7 @@ void View_Start::animate(const For_Thread_Var& arguments) {
     switch_to_points(true);
     light(no_point, arguments);
     bool asked_to_stop = false;
-    for (int step = 0; step < most_steps && !asked_to_stop && !desktop.closing(); ++step) {
+    for (int step = 0; step < most_steps && !desktop.closing(); ++step) {
         asked_to_stop = desktop.ask([] { return g_loading_animation_stop == 1; });
         if (asked_to_stop) break;
         light(step % points, arguments);

@@ -5,6 +5,7 @@
 #include <clocale>
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 #include <memory>
 
 #include "base/trace.h"
@@ -15,6 +16,7 @@
 #include "shell/tour.h"
 #include "shell/unix_signals.h"
 #include "shell/velk_window.h"
+#include "ui/worker.h"
 #include "version.h"
 
 namespace {
@@ -37,8 +39,14 @@ int run(const velk::Options& options) {
         tour = std::make_unique<velk::Tour>(document, window, options.tour);
     else if (options.connect)
         QTimer::singleShot(0, &window, [&document] { document.OnBT_Refresh(); });
-    const int status = QApplication::exec();
-    return tour ? tour->status() : status;
+    const int ended = QApplication::exec();
+    const int status = tour ? tour->status() : ended;
+    if (velk::Worker::running() > 0) {
+        // Something outside does not let a worker go; what it uses must not be taken from it.
+        velk::flush_trace();
+        std::_Exit(status);
+    }
+    return status;
 }
 
 }  // namespace

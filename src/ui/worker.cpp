@@ -56,6 +56,12 @@ int Worker::running() {
     return static_cast<int>(workers.interruptors.size());
 }
 
+void Worker::interrupt_all() {
+    Running& workers = all();
+    const std::lock_guard lock(workers.mutex);
+    for (Interruptor& interruptor : workers.interruptors) interruptor.cancel();
+}
+
 bool Worker::stop_all(std::chrono::milliseconds time) {
     Running& workers = all();
     std::unique_lock lock(workers.mutex);

@@ -17,6 +17,9 @@ class Worker {
     /// How many are running.
     static int running();
 
+    /// Interrupts what is running: every wait ends, and so does every later one of these workers.
+    static void interrupt_all();
+
     /// Ends the program's work: interrupts every worker and waits for them. True when all have
     /// ended in time. When false, the rest still runs and the process must end without waiting
     /// for it. Further start() calls are ignored until allow_start().

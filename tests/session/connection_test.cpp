@@ -15,77 +15,91 @@ using testing::StartsWith;
 
 using Lines = std::vector<std::string>;
 
-/// The record without the lines that are the same in every attempt.
-Lines without_colours(const Lines& lines) {
-    Lines rest;
-    for (const std::string& line : lines)
-        if (line.find(" colour: ") == std::string::npos) rest.push_back(line);
-    return rest;
+Lines operator+(Lines lines, const Lines& more) {
+    lines.insert(lines.end(), more.begin(), more.end());
+    return lines;
 }
 
-/// What a Refresh click shows before the worker's first line.
-const Lines lines_of_a_click = {
-    "m_LB_MobileNameBig hidden",
-    "m_BT_Refresh hidden",
-    "m_LB_Size_PhoneTotalFree hidden",
-    "m_LB_Size_StorageTotalFree hidden",
-    "m_LevelIndicator_Size_Phone hidden",
-    "m_LevelIndicator_Size_Storage hidden",
-    "m_LB_ps: Loading......",
-    "m_LB_ps: Loading ...",
-    "m_BT_SMS: SMS",
-    "m_BT_Contacts: Contacts",
-    "m_BT_Apps: Apps",
-    "m_BT_Music: Music",
-    "m_BT_Photo: Photo",
-    "m_BT_Video: Video",
-    "m_BT_Book: Book",
-    "m_Control_Box1 shown",
-    "m_Control_Box1 shown",
-    "m_Control_Box1: nothing",
-    "m_Control_Box1: View_Start",
-    "m_LB_ps: ",
-    "m_LB_ps: Running android tool...",
-};
-
-/// What follows the click, without colours.
-Lines behind_the_click(const Lines& recorded) {
-    Lines lines = without_colours(recorded);
-    EXPECT_GE(lines.size(), lines_of_a_click.size());
-    const auto end = lines.begin() +
-                     static_cast<std::ptrdiff_t>(std::min(lines.size(), lines_of_a_click.size()));
-    EXPECT_EQ(Lines(lines.begin(), end), lines_of_a_click);
-    lines.erase(lines.begin(), end);
+/// The eight captions of the toolbar, coloured in their order, as one line.
+Lines folded(const Lines& recorded) {
+    const Lines buttons = {"m_BT_MyAndroid", "m_BT_Contacts", "m_BT_SMS",   "m_BT_Apps",
+                           "m_BT_Photo",     "m_BT_Video",    "m_BT_Music", "m_BT_Book"};
+    Lines lines;
+    std::size_t coloured = 0;
+    for (const std::string& line : recorded) {
+        if (line == buttons[coloured] + " colour: 255 255 255")
+            coloured = (coloured + 1) % buttons.size();
+        else
+            lines.push_back(line);
+        if (coloured == 1) lines.push_back("captions white");
+    }
     return lines;
+}
+
+Lines summary_controls(const std::string& change) {
+    Lines lines;
+    for (const char* control :
+         {"m_BT_Bottom_Apps", "m_BT_Bottom_Contacts", "m_BT_Bottom_SMS", "m_LB_MobileNameBig",
+          "m_BT_Refresh", "m_LB_Size_PhoneTotalFree", "m_LB_Size_StorageTotalFree",
+          "m_LB_Size_Phone_BK", "m_LB_Size_Storage_BK", "m_LevelIndicator_Size_Phone",
+          "m_LevelIndicator_Size_Storage", "m_LB_Free_Phone_Caption", "m_LB_Free_Storage_Caption"})
+        lines.push_back(std::string(control) + " " + change);
+    return lines;
+}
+
+/// A view put into the box; `loading` is what happens when it is loaded.
+Lines shown(const std::string& view, const Lines& loading = {}) {
+    return Lines{"m_Control_Box1 shown"} + loading +
+           Lines{"m_Control_Box1 shown", "m_Control_Box1: nothing", "m_Control_Box1: " + view};
+}
+
+/// What a Refresh click shows, up to the worker's first line.
+Lines click() {
+    return summary_controls("hidden") +
+           Lines{"m_LB_ps: Loading......",  "m_LB_ps: Loading ...", "m_BT_SMS: SMS",
+                 "m_BT_Contacts: Contacts", "m_BT_Apps: Apps",      "m_BT_Music: Music",
+                 "m_BT_Photo: Photo",       "m_BT_Video: Video",    "m_BT_Book: Book",
+                 "captions white"} +
+           shown("View_Start") + Lines{"m_LB_ps: ", "m_LB_ps: Running android tool..."};
 }
 
 TEST_F(Session, shows_a_successful_attempt_in_the_order_it_happens) {
     phone_is_fine();
     refresh();
-    EXPECT_THAT(
-        behind_the_click(recorder.lines()),
-        ElementsAre(
-            "m_LB_Connected: Connected!", "m_LB_SerialNumber: R58 M",
-            "m_LB_ps: Launching the application on your phone...",
-            "m_LB_ps: Start communicating ...",
-            "m_LB_ps: Retrieving mobile phone basic information.", "m_LB_Battery: 85%",
-            "m_Progress_Battery: 4", "m_LB_Size_PhoneTotal: 2.86MB",
-            "m_LB_Size_PhoneTotal tool tip: 3,000,000 bytes", "m_LB_Size_PhoneTotalFree: 976.56KB",
-            "m_LB_Size_PhoneTotalFree tool tip: 1,000,000 bytes",
-            "m_LB_Size_StorageTotal: 672.37MB",
-            "m_LB_Size_StorageTotal tool tip: 5,000,000,000 bytes",
-            "m_LB_Size_StorageTotalFree: 1.00GB",
-            "m_LB_Size_StorageTotalFree tool tip: 1,073,741,825 bytes",
-            "m_LevelIndicator_Size_Phone: 75", "m_LevelIndicator_Size_Storage: 39",
-            "m_LB_USBConnect: Connected via USB", "m_LB_AndroidVersion: 4.4.2",
-            "m_LB_MobileNameBig: Demo", "m_LB_MobileName: Demo", "m_BT_Contacts: Contacts(12x)",
-            "m_BT_SMS: SMS(12)", "m_BT_Apps: Apps(30)", "m_BT_Photo: Photos(40)",
-            "m_BT_Music: Music(60)", "m_BT_Video: Videos(8)", "m_BT_Book: Books(12)",
-            "m_Control_Box1 shown", "m_Control_Box1 shown", "m_Control_Box1: nothing",
-            "m_Control_Box1: View_Start", "m_LB_ps: Demo  is connected.",
-            "m_LB_MobileNameBig shown", "m_BT_Refresh shown", "m_LB_Size_PhoneTotalFree shown",
-            "m_LB_Size_StorageTotalFree shown", "m_LevelIndicator_Size_Phone shown",
-            "m_LevelIndicator_Size_Storage shown"));
+    const Lines expected =
+        click() +
+                  Lines{"m_LB_Connected: Connected!",
+                        "m_LB_SerialNumber: R58 M",
+                        "m_LB_ps: Launching the application on your phone...",
+                        "m_LB_ps: Start communicating ...",
+                        "m_LB_ps: Retrieving mobile phone basic information.",
+                        "m_LB_Battery: 85%",
+                        "m_Progress_Battery: 4",
+                        "m_LB_Size_PhoneTotal: 2.86MB",
+                        "m_LB_Size_PhoneTotal tool tip: 3,000,000 bytes",
+                        "m_LB_Size_PhoneTotalFree: 976.56KB",
+                        "m_LB_Size_PhoneTotalFree tool tip: 1,000,000 bytes",
+                        "m_LB_Size_StorageTotal: 672.37MB",
+                        "m_LB_Size_StorageTotal tool tip: 5,000,000,000 bytes",
+                        "m_LB_Size_StorageTotalFree: 1.00GB",
+                        "m_LB_Size_StorageTotalFree tool tip: 1,073,741,825 bytes",
+                        "m_LevelIndicator_Size_Phone: 75",
+                        "m_LevelIndicator_Size_Storage: 39",
+                        "m_LB_USBConnect: Connected via USB",
+                        "m_LB_AndroidVersion: 4.4.2",
+                        "m_LB_MobileNameBig: Demo",
+                        "m_LB_MobileName: Demo",
+                        "m_BT_Contacts: Contacts(12x)",
+                        "m_BT_SMS: SMS(12)",
+                        "m_BT_Apps: Apps(30)",
+                        "captions white",
+                        "m_BT_Photo: Photos(40)",
+                        "m_BT_Music: Music(60)",
+                        "m_BT_Video: Videos(8)",
+                        "m_BT_Book: Books(12)"} +
+                  shown("View_Start") + Lines{"m_LB_ps: Demo  is connected."} +
+                  summary_controls("shown");
+    EXPECT_EQ(folded(recorder.lines()), expected);
     EXPECT_EQ(g_connected_adb, 1);
     EXPECT_EQ(g_device_serial_number, "R58 M");
     EXPECT_EQ(g_int_count_contacts, 12);
@@ -113,26 +127,36 @@ TEST_F(Session, asks_the_tool_and_the_agent_for_each_step_once_and_in_order) {
                                            "67", "68", "70", "72", "74", "114"));
 }
 
+TEST_F(Session, traces_an_attempt_in_the_order_it_happens) {
+    phone_is_fine();
+    testing::internal::CaptureStdout();
+    refresh();
+    const std::string traced = testing::internal::GetCapturedStdout();
+    std::size_t at = 0;
+    for (const char* line :
+         {"\nClick Refresh...\n", "Running android tool  :1\n",
+          "\nrs string length =2, str is [85]\n", "Total SD Size:[3000000]\n", "Format :2.86MB\n",
+          "Total Mobile Available Size:[1000000]\n", "Total Mobile Size:[5000000000]\n",
+          "Total Mobile Available Size:[1073741825]\n", "Version:[4.4.2]", "Mobile Name:[Demo]",
+          "App Count:[30]", "Photo Count:[40]", "Music Count:[60]", "Video Count:[8]",
+          "Book Count=[12]\n", "APK Version=[1.0]\n", "\n--------END-------\n"}) {
+        const std::size_t found = traced.find(line, at);
+        ASSERT_NE(found, std::string::npos) << line << "is not behind " << traced.substr(0, at);
+        at = found;
+    }
+    EXPECT_EQ(traced.find("Format :", traced.find("Format :") + 1), std::string::npos);
+}
+
 TEST_F(Session, tells_each_kind_of_trouble_in_its_own_order) {
     struct Case {
         const char* devices;
         Lines shown;
         const char* view;
     };
-    const Lines captions_again = {"m_BT_SMS: SMS", "m_BT_Contacts: Contacts"};
-    const Lines hidden_by_the_view = {
-        "m_LB_MobileNameBig hidden",          "m_BT_Refresh hidden",
-        "m_LB_Size_PhoneTotalFree hidden",    "m_LB_Size_StorageTotalFree hidden",
-        "m_LevelIndicator_Size_Phone hidden", "m_LevelIndicator_Size_Storage hidden"};
-    const auto trouble_view = [&](const Lines& labels, const std::string& name) {
-        Lines lines = labels;
-        lines.insert(lines.end(), captions_again.begin(), captions_again.end());
-        lines.push_back("m_Control_Box1 shown");
-        lines.insert(lines.end(), hidden_by_the_view.begin(), hidden_by_the_view.end());
-        for (const std::string last : {" shown", ": nothing"})
-            lines.push_back("m_Control_Box1" + last);
-        lines.push_back("m_Control_Box1: " + name);
-        return lines;
+    // A trouble view hides the summary's controls when it is loaded, which is once.
+    const auto trouble_view = [](const Lines& labels, const std::string& name) {
+        return labels + Lines{"m_BT_SMS: SMS", "m_BT_Contacts: Contacts", "captions white"} +
+               shown(name, summary_controls("hidden"));
     };
     const Lines not_usable = {"m_LB_Connected: There is no device!",
                               "m_LB_SerialNumber: ", "m_LB_ps: ", "m_LB_ps: "};
@@ -152,7 +176,7 @@ TEST_F(Session, tells_each_kind_of_trouble_in_its_own_order) {
         adb.answer("devices", trouble.devices);
         recorder.clear();
         refresh();
-        EXPECT_EQ(behind_the_click(recorder.lines()), trouble.shown);
+        EXPECT_EQ(folded(recorder.lines()), click() + trouble.shown);
         EXPECT_EQ(view_in_the_box(), trouble.view);
         EXPECT_EQ(g_connected_adb, 0);
     }

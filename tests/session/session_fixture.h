@@ -72,12 +72,15 @@ class Session : public testing::Test {
               &document.m_LB_SerialNumber, &document.m_LB_MobileName, &document.m_LB_AndroidVersion,
               &document.m_LB_Battery, &document.m_LB_Size_PhoneTotal,
               &document.m_LB_Size_StorageTotal, &document.m_LB_MobileNameBig,
-              &document.m_LB_Size_PhoneTotalFree, &document.m_LB_Size_StorageTotalFree})
+              &document.m_LB_Size_PhoneTotalFree, &document.m_LB_Size_StorageTotalFree,
+              &document.m_LB_Size_Phone_BK, &document.m_LB_Size_Storage_BK,
+              &document.m_LB_Free_Phone_Caption, &document.m_LB_Free_Storage_Caption})
             recorder.watch(*label);
         for (Button* button :
              {&document.m_BT_MyAndroid, &document.m_BT_Contacts, &document.m_BT_SMS,
               &document.m_BT_Apps, &document.m_BT_Music, &document.m_BT_Photo, &document.m_BT_Video,
-              &document.m_BT_Book, &document.m_BT_Refresh})
+              &document.m_BT_Book, &document.m_BT_Refresh, &document.m_BT_Bottom_Apps,
+              &document.m_BT_Bottom_Contacts, &document.m_BT_Bottom_SMS})
             recorder.watch(*button);
         for (Level_Indicator* gauge :
              {&document.m_Progress_Battery, &document.m_LevelIndicator_Size_Phone,

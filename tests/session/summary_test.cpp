@@ -27,6 +27,7 @@ TEST(Device_Summary, tells_the_exact_bytes_of_sizes_that_32_bits_cannot_hold) {
                                                          {"-1234", "-1,234 bytes"},
                                                          {"12x", "12 bytes"},
                                                          {"", ""},
+                                                         {" +1234", "1,234 bytes"},
                                                          {"-", ""},
                                                          {"x", ""}};
     for (const auto& [reported, shown] : cases) EXPECT_EQ(exact_bytes(reported), shown) << reported;
