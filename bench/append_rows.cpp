@@ -106,7 +106,7 @@ int main(int argument_count, char** arguments) {
         });
     });
     QApplication::exec();
-    print(pulse.waits, rows, total);
+    if (!pulse.waits.empty()) print(pulse.waits, rows, total);
     velk::Worker::stop_all(std::chrono::seconds(1));
     return EXIT_SUCCESS;
 }

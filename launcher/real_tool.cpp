@@ -15,6 +15,10 @@ namespace {
 
 constexpr const char* chosen_tool = "VELK_ADB";
 
+/// The launchers that a command has come through, by file, so that two copies of this program on
+/// the search path do not run each other for ever.
+constexpr const char* launchers = "VELK_ADB_LAUNCHERS";
+
 /// What a variable of the environment holds; nothing when it is empty or missing.
 std::optional<std::string> environment(const char* name) {
     const char* const value = std::getenv(name);
@@ -22,16 +26,31 @@ std::optional<std::string> environment(const char* name) {
     return value;
 }
 
-bool is_this_program(const struct stat& file) {
-    struct stat own {};
-    return ::stat("/proc/self/exe", &own) == 0 && own.st_dev == file.st_dev &&
-           own.st_ino == file.st_ino;
+/// A file by its device and number, as the list of launchers writes it.
+std::string identity(const struct stat& file) {
+    return std::to_string(file.st_dev) + "/" + std::to_string(file.st_ino) + ";";
+}
+
+/// The list with this program in it, put into the environment for the tool.
+const std::string& launchers_so_far() {
+    static const std::string all = [] {
+        std::string list = environment(launchers).value_or("");
+        struct stat own {};
+        if (::stat("/proc/self/exe", &own) == 0) list += identity(own);
+        ::setenv(launchers, list.c_str(), 1);
+        return list;
+    }();
+    return all;
+}
+
+bool is_a_launcher(const struct stat& file) {
+    return (";" + launchers_so_far()).find(";" + identity(file)) != std::string::npos;
 }
 
 bool is_a_real_tool(const std::string& path) {
     struct stat file {};
     return ::stat(path.c_str(), &file) == 0 && S_ISREG(file.st_mode) &&
-           ::access(path.c_str(), X_OK) == 0 && !is_this_program(file);
+           ::access(path.c_str(), X_OK) == 0 && !is_a_launcher(file);
 }
 
 std::vector<std::string> folders_to_look_in() {

@@ -67,7 +67,8 @@ void tell_that_it_cannot_be_run(std::string_view program) {
     // The tool's server would keep for days whatever else it inherits.
     ::close_range(3, ~0U, CLOSE_RANGE_CLOEXEC);
 
-    ::signal(SIGPIPE, SIG_DFL);
+    // From here on a signal is the child's own: none may run a handler of the program it was.
+    for (const int signal : {SIGPIPE, SIGTERM, SIGHUP, SIGINT}) ::signal(signal, SIG_DFL);
     sigset_t none;
     ::sigemptyset(&none);
     ::sigprocmask(SIG_SETMASK, &none, nullptr);
@@ -82,9 +83,14 @@ pid_t start(const Child_Command& command, int pipe) {
     for (std::string& word : words) arguments.push_back(word.data());
     arguments.push_back(nullptr);
 
+    sigset_t all;
+    sigset_t before;
+    ::sigfillset(&all);
+    ::pthread_sigmask(SIG_SETMASK, &all, &before);
     const pid_t parent = ::getpid();
     const pid_t child = ::fork();
     if (child == 0) become(command, arguments.data(), pipe, parent);
+    ::pthread_sigmask(SIG_SETMASK, &before, nullptr);
     return child;
 }
 

@@ -66,9 +66,9 @@ void MainDocument::remove_device(const std::string& name) {
 void MainDocument::thread_do_refresh_function() {
     get_adb_full_path();
     do_all_thing_for_thread();
-    on_window([] { g_can_click_refresh = 1; });
-    g_View_Start->Stop_Loading_Animation();
     on_window([this] {
+        g_can_click_refresh = 1;
+        g_View_Start->Stop_Loading_Animation();
         if (g_connected_adb) hidden_some(false);
     });
 }

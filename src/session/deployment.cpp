@@ -1,4 +1,6 @@
 // Putting the agent on the phone and waking it. Worker.
+#include <array>
+
 #include "base/trace.h"
 #include "session/main_document.h"
 #include "ui/program_wide.h"

@@ -64,6 +64,7 @@ void MainDocument::windowControllerDidLoadNib() {
 }
 
 void MainDocument::windowWillClose() {
+    if (desktop_.closing()) return;
     desktop_.close_gate();
     Worker::interrupt_all();  // an attempt under way must not speak to the phone after the goodbye
     const auto answered = std::make_shared<std::promise<void>>();

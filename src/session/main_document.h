@@ -38,8 +38,8 @@ class MainDocument : public Main_Window, public Window_Outlets, public Adb_Wrapp
 
     /// Finishes the window once its controls exist.
     void windowControllerDidLoadNib();
-    /// Sends the agent a last request and ends the event loop, within two seconds even when the
-    /// agent never answers. A worker that something outside does not let go may still run then:
+    /// Once: sends the agent a last request and ends the event loop, within two seconds even when
+    /// the agent never answers. A worker that something outside does not let go may still run then:
     /// the process must end without waiting for it.
     void windowWillClose();
 

@@ -40,6 +40,7 @@ int run(const velk::Options& options) {
     else if (options.connect)
         QTimer::singleShot(0, &window, [&document] { document.OnBT_Refresh(); });
     const int ended = QApplication::exec();
+    document.windowWillClose();  // in case the loop has ended by another way than the window's
     const int status = tour ? tour->status() : ended;
     if (velk::Worker::running() > 0) {
         // Something outside does not let a worker go; what it uses must not be taken from it.

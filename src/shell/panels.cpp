@@ -31,10 +31,11 @@ void open_alert_box(QWidget* window, const Alert& alert, std::function<void(int)
         // One role for all keeps the given order on every desktop.
         QPushButton* const button = box->addButton(
             QString::fromUtf8(alert.buttons[static_cast<std::size_t>(i)]), QMessageBox::ActionRole);
-        if (i == alert.default_button) box->setDefaultButton(button);
-        if (i == alert.escape_button) box->setEscapeButton(button);
+        if (i < alert.last_button()) continue;
+        box->setDefaultButton(button);
+        box->setEscapeButton(button);
     }
-    const int escape = alert.escape_button;
+    const int escape = alert.last_button();
     QObject::connect(box, &QDialog::finished, box, [box, escape, answered = std::move(answered)] {
         const auto pressed = box->buttons().indexOf(box->clickedButton());
         answered(pressed < 0 ? escape : static_cast<int>(pressed));

@@ -28,7 +28,7 @@ bool Qt_Desktop::event(QEvent* event) {
 
 void Qt_Desktop::open_alert(const Alert& alert, std::function<void(int)> answered) {
     if (alerts_dropped_)
-        answered(alert.escape_button);
+        answered(alert.last_button());
     else
         open_alert_box(window_, alert, std::move(answered));
 }

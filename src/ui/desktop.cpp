@@ -1,6 +1,7 @@
 #include "ui/desktop.h"
 
 #include <atomic>
+#include <cassert>
 
 #include "base/interruptor.h"
 #include "ui/outlets.h"
@@ -75,7 +76,8 @@ bool Desktop::sleep(double seconds) {
 }
 
 int Desktop::run_alert(const Alert& alert) {
-    const auto answer = std::make_shared<std::atomic<int>>(alert.escape_button);
+    assert(!on_ui_thread());
+    const auto answer = std::make_shared<std::atomic<int>>(alert.last_button());
     const auto done = std::make_shared<Awaited>();
     post([this, alert, answer, promise = std::make_shared<Promise>(done)] {
         std::erase_if(open_alerts_, [](const auto& open) { return open.expired(); });

@@ -17,14 +17,15 @@ namespace velk {
 
 enum class Alert_Style { warning, informational };
 
-/// A modal box with a title, a text and buttons from first to last.
+/// A modal box with a title, a text and buttons from first to last. The last one is the one that
+/// changes nothing: Return, Escape and closing the box press it.
 struct Alert {
     std::string title;
     std::string text;
     std::vector<std::string> buttons;
     Alert_Style style = Alert_Style::warning;
-    int default_button = 0;  // pressed by Return
-    int escape_button = 0;   // pressed by Escape and by closing the box
+
+    int last_button() const { return static_cast<int>(buttons.size()) - 1; }
 };
 
 class Desktop {
@@ -63,7 +64,7 @@ class Desktop {
     // --- workers only -----------------------------------------------------------------------
 
     /// Shows the alert and waits for the person's answer, the index of the button. Only the
-    /// asking worker waits; all other work goes on. Gives the escape button when the gate closes.
+    /// asking worker waits; all other work goes on. Gives the last button when the gate closes.
     int run_alert(const Alert& alert);
 
     // --- user-interface thread only ---------------------------------------------------------

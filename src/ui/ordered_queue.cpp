@@ -32,11 +32,14 @@ void Ordered_Queue::run_turn(std::chrono::steady_clock::duration time) {
         next();
         if (std::chrono::steady_clock::now() >= end) break;
     }
-    const std::lock_guard lock(mutex_);
-    if (waiting_.empty())
-        woken_ = false;
-    else
-        wake_();
+    {
+        const std::lock_guard lock(mutex_);
+        if (waiting_.empty()) {
+            woken_ = false;
+            return;
+        }
+    }
+    wake_();
 }
 
 void Ordered_Queue::close() {

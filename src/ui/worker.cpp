@@ -5,9 +5,11 @@
 #include <condition_variable>
 #include <list>
 #include <mutex>
+#include <system_error>
 #include <thread>
 
 #include "base/interruptor.h"
+#include "base/trace.h"
 
 namespace velk {
 
@@ -17,7 +19,6 @@ struct Running {
     std::mutex mutex;
     std::condition_variable one_ended;
     std::list<Interruptor> interruptors;  // one of each running worker; a list, so none ever moves
-    bool refused = false;
 };
 
 /// Never destroyed: a worker that is still running when the process ends may use it.
@@ -45,9 +46,13 @@ void run(const std::string& name, std::function<void()> body,
 void Worker::start(const std::string& name, std::function<void()> body) {
     Running& workers = all();
     const std::lock_guard lock(workers.mutex);
-    if (workers.refused) return;
     const auto own = workers.interruptors.emplace(workers.interruptors.end());
-    std::thread(run, name, std::move(body), own).detach();
+    try {
+        std::thread(run, name, std::move(body), own).detach();
+    } catch (const std::system_error& failure) {
+        workers.interruptors.erase(own);
+        log_line("%s cannot be started: %s", name.c_str(), failure.what());
+    }
 }
 
 int Worker::running() {
@@ -65,15 +70,8 @@ void Worker::interrupt_all() {
 bool Worker::stop_all(std::chrono::milliseconds time) {
     Running& workers = all();
     std::unique_lock lock(workers.mutex);
-    workers.refused = true;
     for (Interruptor& interruptor : workers.interruptors) interruptor.cancel();
     return workers.one_ended.wait_for(lock, time, [&] { return workers.interruptors.empty(); });
-}
-
-void Worker::allow_start() {
-    Running& workers = all();
-    const std::lock_guard lock(workers.mutex);
-    workers.refused = false;
 }
 
 }  // namespace velk

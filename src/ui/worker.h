@@ -10,8 +10,8 @@ namespace velk {
 class Worker {
   public:
     /// Runs `body` on a thread of its own, which has an Interruptor of its own. `name` is the
-    /// thread's name (the system shows its first 15 characters). Any thread may call. After
-    /// stop_all() has begun nothing is started any more.
+    /// thread's name (the system shows its first 15 characters). Any thread may call. When the
+    /// system has no thread to give, that is logged and the body does not run.
     static void start(const std::string& name, std::function<void()> body);
 
     /// How many are running.
@@ -20,14 +20,9 @@ class Worker {
     /// Interrupts what is running: every wait ends, and so does every later one of these workers.
     static void interrupt_all();
 
-    /// Ends the program's work: interrupts every worker and waits for them. True when all have
-    /// ended in time. When false, the rest still runs and the process must end without waiting
-    /// for it. Further start() calls are ignored until allow_start().
+    /// Interrupts every worker and waits for them. True when all have ended in time. When false,
+    /// the rest still runs and the process must end without waiting for it.
     static bool stop_all(std::chrono::milliseconds time);
-
-    /// Lets workers start again after stop_all(); for tests, which end many programs in one
-    /// process.
-    static void allow_start();
 };
 
 }  // namespace velk

@@ -66,39 +66,38 @@ Lines click() {
 TEST_F(Session, shows_a_successful_attempt_in_the_order_it_happens) {
     phone_is_fine();
     refresh();
-    const Lines expected =
-        click() +
-                  Lines{"m_LB_Connected: Connected!",
-                        "m_LB_SerialNumber: R58 M",
-                        "m_LB_ps: Launching the application on your phone...",
-                        "m_LB_ps: Start communicating ...",
-                        "m_LB_ps: Retrieving mobile phone basic information.",
-                        "m_LB_Battery: 85%",
-                        "m_Progress_Battery: 4",
-                        "m_LB_Size_PhoneTotal: 2.86MB",
-                        "m_LB_Size_PhoneTotal tool tip: 3,000,000 bytes",
-                        "m_LB_Size_PhoneTotalFree: 976.56KB",
-                        "m_LB_Size_PhoneTotalFree tool tip: 1,000,000 bytes",
-                        "m_LB_Size_StorageTotal: 672.37MB",
-                        "m_LB_Size_StorageTotal tool tip: 5,000,000,000 bytes",
-                        "m_LB_Size_StorageTotalFree: 1.00GB",
-                        "m_LB_Size_StorageTotalFree tool tip: 1,073,741,825 bytes",
-                        "m_LevelIndicator_Size_Phone: 75",
-                        "m_LevelIndicator_Size_Storage: 39",
-                        "m_LB_USBConnect: Connected via USB",
-                        "m_LB_AndroidVersion: 4.4.2",
-                        "m_LB_MobileNameBig: Demo",
-                        "m_LB_MobileName: Demo",
-                        "m_BT_Contacts: Contacts(12x)",
-                        "m_BT_SMS: SMS(12)",
-                        "m_BT_Apps: Apps(30)",
-                        "captions white",
-                        "m_BT_Photo: Photos(40)",
-                        "m_BT_Music: Music(60)",
-                        "m_BT_Video: Videos(8)",
-                        "m_BT_Book: Books(12)"} +
-                  shown("View_Start") + Lines{"m_LB_ps: Demo  is connected."} +
-                  summary_controls("shown");
+    const Lines expected = click() +
+                           Lines{"m_LB_Connected: Connected!",
+                                 "m_LB_SerialNumber: R58 M",
+                                 "m_LB_ps: Launching the application on your phone...",
+                                 "m_LB_ps: Start communicating ...",
+                                 "m_LB_ps: Retrieving mobile phone basic information.",
+                                 "m_LB_Battery: 85%",
+                                 "m_Progress_Battery: 4",
+                                 "m_LB_Size_PhoneTotal: 2.86MB",
+                                 "m_LB_Size_PhoneTotal tool tip: 3,000,000 bytes",
+                                 "m_LB_Size_PhoneTotalFree: 976.56KB",
+                                 "m_LB_Size_PhoneTotalFree tool tip: 1,000,000 bytes",
+                                 "m_LB_Size_StorageTotal: 672.37MB",
+                                 "m_LB_Size_StorageTotal tool tip: 5,000,000,000 bytes",
+                                 "m_LB_Size_StorageTotalFree: 1.00GB",
+                                 "m_LB_Size_StorageTotalFree tool tip: 1,073,741,825 bytes",
+                                 "m_LevelIndicator_Size_Phone: 75",
+                                 "m_LevelIndicator_Size_Storage: 39",
+                                 "m_LB_USBConnect: Connected via USB",
+                                 "m_LB_AndroidVersion: 4.4.2",
+                                 "m_LB_MobileNameBig: Demo",
+                                 "m_LB_MobileName: Demo",
+                                 "m_BT_Contacts: Contacts(12x)",
+                                 "m_BT_SMS: SMS(12)",
+                                 "m_BT_Apps: Apps(30)",
+                                 "captions white",
+                                 "m_BT_Photo: Photos(40)",
+                                 "m_BT_Music: Music(60)",
+                                 "m_BT_Video: Videos(8)",
+                                 "m_BT_Book: Books(12)"} +
+                           shown("View_Start") + Lines{"m_LB_ps: Demo  is connected."} +
+                           summary_controls("shown");
     EXPECT_EQ(folded(recorder.lines()), expected);
     EXPECT_EQ(g_connected_adb, 1);
     EXPECT_EQ(g_device_serial_number, "R58 M");
@@ -258,7 +257,6 @@ TEST_F(Session, ends_the_program_within_two_seconds_of_a_silent_agent) {
     EXPECT_TRUE(desktop.terminated());
     EXPECT_EQ(Worker::running(), 0);
     EXPECT_THAT(agent.codes(), Contains("90"));
-    Worker::allow_start();
 }
 
 }  // namespace

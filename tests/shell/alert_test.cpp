@@ -11,11 +11,8 @@
 namespace velk {
 namespace {
 
-const Alert question{.title = "Information",
-                     .text = "Are you <b>sure</b>?",
-                     .buttons = {"Yes", "No"},
-                     .default_button = 0,
-                     .escape_button = 1};
+const Alert question{
+    .title = "Information", .text = "Are you <b>sure</b>?", .buttons = {"Yes", "No"}};
 
 constexpr int not_answered = -1;
 

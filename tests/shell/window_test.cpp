@@ -56,7 +56,6 @@ bool wait_until(const std::function<bool()>& condition) {
 
 Open_Window::Open_Window() {
     test_application();
-    Worker::allow_start();
     document = std::make_unique<MainDocument>(desktop, "/nowhere");
     window = std::make_unique<Velk_Window>(*document, desktop);
     window->show();

@@ -26,7 +26,6 @@ Test_Desktop::~Test_Desktop() {
 void Test_Desktop::end_work() {
     close_gate();
     EXPECT_TRUE(Worker::stop_all(longer_than_needed)) << "a worker does not end";
-    Worker::allow_start();
 }
 
 void Test_Desktop::wake() {
@@ -67,7 +66,7 @@ void Test_Desktop::open_alert(const Alert& alert, std::function<void(int)> answe
     note("alert: " + alert.text);
     if (answers_.empty()) {
         ADD_FAILURE() << "nobody expected the alert \"" << alert.text << '"';
-        answered(alert.escape_button);
+        answered(alert.last_button());
         return;
     }
     const int answer = answers_.front();

@@ -18,10 +18,7 @@ constexpr std::chrono::seconds longer_than_needed{60};
 
 class Workers : public testing::Test {
   protected:
-    ~Workers() override {
-        EXPECT_TRUE(Worker::stop_all(longer_than_needed));
-        Worker::allow_start();
-    }
+    ~Workers() override { EXPECT_TRUE(Worker::stop_all(longer_than_needed)); }
 };
 
 TEST_F(Workers, StoppingInterruptsASleeperAndAReceive) {
@@ -45,12 +42,6 @@ TEST_F(Workers, StoppingInterruptsASleeperAndAReceive) {
     EXPECT_TRUE(Worker::stop_all(longer_than_needed));
     EXPECT_EQ(ended, 2);
     for (const int end : ends) ::close(end);
-}
-
-TEST_F(Workers, NothingStartsOnceStoppingHasBegun) {
-    EXPECT_TRUE(Worker::stop_all(longer_than_needed));
-    Worker::start("too late", [] { ADD_FAILURE() << "it has started"; });
-    EXPECT_EQ(Worker::running(), 0);
 }
 
 TEST_F(Workers, OneThatDoesNotEndIsToldAndNotWaitedFor) {
@@ -77,7 +68,6 @@ TEST_F(Workers, AWorkerHasEndedOnlyWhenWhatItOwnsHasGone) {
         Worker::start("owner", [owned = std::make_shared<Slow_To_Go>(gone)] {});
         EXPECT_TRUE(Worker::stop_all(longer_than_needed));
         EXPECT_TRUE(gone);
-        Worker::allow_start();
         while (!gone) std::this_thread::yield();
     }
 }
