@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QCursor>
 #include <QDir>
 #include <QMessageBox>
 #include <QMouseEvent>
@@ -63,6 +64,8 @@ bool all_guards_are_up(const Section& section) {
 Tour::Tour(MainDocument& document, Velk_Window& window, std::string folder)
     : document_(document), window_(window), folder_(std::move(folder)) {
     window_.setFixedSize(size_of_pictures);
+    // Out of the way, so that no button looks touched in the pictures.
+    QCursor::setPos(window_.mapToGlobal(window_.rect().bottomRight()));
     timer_.setInterval(milliseconds_between_looks);
     connect(&timer_, &QTimer::timeout, this, &Tour::look);
     connect(qApp, &QCoreApplication::aboutToQuit, this, [this] {

@@ -1,6 +1,7 @@
 #include "shell/velk_window.h"
 
 #include <QCloseEvent>
+#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QTimer>
 #include <utility>
@@ -37,6 +38,11 @@ Velk_Window::Velk_Window(MainDocument& document, Qt_Desktop& desktop)
     document.windowControllerDidLoadNib();
     bring_up_to_date();
     set_tab_order();
+}
+
+void Velk_Window::bring_up_to_date() {
+    binding_.flush();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
 }
 
 void Velk_Window::build() {

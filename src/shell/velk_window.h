@@ -19,7 +19,7 @@ class Velk_Window : public QWidget {
     Velk_Window(MainDocument& document, Qt_Desktop& desktop);
 
     /// Shows at once what otherwise shows at the end of the turn.
-    void bring_up_to_date() { binding_.flush(); }
+    void bring_up_to_date();
 
   protected:
     /// Goes from the screen at once; the document then ends the program.
