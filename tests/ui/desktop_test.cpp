@@ -67,12 +67,12 @@ TEST(Desktop, ClosingTheGateLetsEveryWaitingWorkerGo) {
         {"a question", false, [](Desktop& desktop) { return desktop.ask([] { return 7; }); }, 0},
         {"an alert that has not opened", false,
          [](Desktop& desktop) {
-             return desktop.run_alert({"Information", "?", {"Yes", "No"}, {}, 0, 1});
+             return desktop.run_alert({"Information", "?", {"Yes", "No"}});
          },
          1},
         {"an alert that is open", true,
          [](Desktop& desktop) {
-             return desktop.run_alert({"Information", "?", {"Yes", "No"}, {}, 0, 1});
+             return desktop.run_alert({"Information", "?", {"Yes", "No"}});
          },
          1},
     };
@@ -103,18 +103,6 @@ TEST(Desktop, ASleepEndsWithTheProgramAndSaysSo) {
     while (!asleep) std::this_thread::yield();
     desktop.end_work();
     EXPECT_FALSE(slept);
-}
-
-TEST(Desktop, InstantSleepsAreNotedInTheWorkersOrder) {
-    Test_Desktop desktop;
-    desktop.make_sleeps_instant();
-    Worker::start("sleeper", [&] {
-        desktop.post([&] { desktop.beep(); });
-        EXPECT_TRUE(desktop.sleep(0.6));
-        desktop.post([&] { desktop.beep(); });
-    });
-    desktop.pump_until([&] { return desktop.notes().size() == 3; });
-    EXPECT_EQ(desktop.notes(), (std::vector<std::string>{"beep", "sleep 0.6", "beep"}));
 }
 
 }  // namespace
