@@ -120,6 +120,7 @@ std::vector<std::string> Phone_Storage::files_below(std::string_view phone_path)
     for (const Phone_File& file : list(folder)) {
         const std::string path = folder + "/" + file.name;
         if (file.is_file()) paths.push_back(path);
+        if (!file.is_folder()) continue;
         for (std::string& below : files_below(path)) paths.push_back(std::move(below));
     }
     return paths;
@@ -157,9 +158,10 @@ bool Phone_Storage::remove(std::string_view phone_path, bool whole_folder) {
     return removed && !error;
 }
 
-std::uint64_t Phone_Storage::used_bytes() const {
+std::uint64_t Phone_Storage::used_bytes(const std::string& folder) const {
     std::uint64_t sum = 0;
-    for (const std::string& path : files_below("/")) sum += facts(path).size;
+    for (const Phone_File& file : list(folder))
+        sum += file.is_folder() ? used_bytes(folder + "/" + file.name) : file.size;
     return sum;
 }
 

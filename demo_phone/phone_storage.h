@@ -46,8 +46,8 @@ class Phone_Storage {
     bool set_time(std::string_view phone_path, std::uint32_t time);
     /// Removes a file, or a folder and all below it when `whole_folder` is set.
     bool remove(std::string_view phone_path, bool whole_folder = false);
-    /// Bytes of all files.
-    std::uint64_t used_bytes() const;
+    /// Bytes of all files below a folder.
+    std::uint64_t used_bytes(const std::string& folder = "") const;
 
   private:
     Phone_Storage(std::filesystem::path root, bool temporary);
