@@ -27,7 +27,7 @@ Colour colour_of(unsigned seed) {
 /// One pixel of a landscape: a sky that fades, a sun, and hills like teeth of a saw.
 Colour landscape(std::size_t x, std::size_t y, std::size_t width, std::size_t height,
                  unsigned seed) {
-    const std::size_t wave = (x * 5 / 2 + seed * 13) % (width + 1);
+    const std::size_t wave = (x * 5 / 2 + std::size_t{seed} * 13) % (width + 1);
     const std::size_t hill = height / 2 + std::min(wave, width - wave) * height / (width * 2);
     if (y > height + height / 4 - hill) return mix(colour_of(seed + 2), {20, 50, 30}, y, height);
     const auto sun_x = static_cast<long>(width * (seed % 5 + 1) / 6);

@@ -10,8 +10,7 @@ constexpr Word special_names[] = {
     "Dentist 🦷",
     "Taxi 🚕 (night)",
     "O'Malley's Workshop",
-    "Anna-Lena von der Hohenheide zu Niederbergstetten-Oberwiesenthal, Sprecherin des Vereins "
-    "der Freunde des alten Leuchtturms",
+    "Anna-Lena von der Hohenheide zu Niederbergstetten-Oberwiesenthal, Freundin des Leuchtturms",
     "Voicemail",
     "حديقة الحيوان — Zoo — 动物园",
     "Room \"B\" <upstairs> & garden",

@@ -81,7 +81,7 @@ Shell_Result getprop(Demo_Phone& phone, const Words& words) {
     std::string text;
     for (const auto& [name, value] : properties) {
         if (words.size() > 1 && words[1] == name) return {value + "\n", 0};
-        text += "[" + name + "]: [" + value + "]\n";
+        text.append("[").append(name).append("]: [").append(value).append("]\n");
     }
     return {words.size() > 1 ? "\n" : text, 0};
 }

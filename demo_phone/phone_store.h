@@ -111,7 +111,7 @@ class Phone_Store {
     std::map<std::string, Phone_Media, std::less<>> media_;  // by path
     std::vector<Phone_App> apps_;
     std::map<std::string, int> threads_;  // by the other party's number
-    std::vector<bool> taken_pairs_ = std::vector<bool>(256 * 256);
+    std::vector<bool> taken_pairs_ = std::vector<bool>(std::size_t{256} * 256);
     Number_Pool contact_ids_;
     Number_Pool message_ids_;
     Number_Pool media_ids_;
