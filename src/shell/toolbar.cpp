@@ -49,8 +49,9 @@ Toolbar::Toolbar(const Window_Parts& parts) : document_(parts.document) {
             button->set_caption_colour(caption_colour(outlet));
             button->updateGeometry();
         });
-        parts.guards.connect_button(button, nullptr,
-                                    [this, &entry] { (document_.*entry.handler)(); });
+        parts.guards.connect_button(
+            button, nullptr,
+            [&document = document_, handler = entry.handler] { (document.*handler)(); });
     }
     row->addStretch();
     parts.binding.bind(document_.m_Control_Box1, this, [this] { mark_current(); });

@@ -65,7 +65,7 @@ Tour::Tour(MainDocument& document, Velk_Window& window, std::string folder)
     : document_(document), window_(window), folder_(std::move(folder)) {
     window_.setFixedSize(size_of_pictures);
     // Out of the way, so that no button looks touched in the pictures.
-    QCursor::setPos(window_.mapToGlobal(window_.rect().bottomRight()));
+    QCursor::setPos(window_.mapToGlobal(window_.rect().bottomRight() - QPoint(9, 9)));
     timer_.setInterval(milliseconds_between_looks);
     connect(&timer_, &QTimer::timeout, this, &Tour::look);
     connect(qApp, &QCoreApplication::aboutToQuit, this, [this] {

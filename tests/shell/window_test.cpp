@@ -19,6 +19,21 @@ void fail_on_warnings(QtMsgType type, const QMessageLogContext&, const QString& 
         ADD_FAILURE() << "the toolkit warns: " << text.toStdString();
 }
 
+QApplication* application = nullptr;
+Look_Keeper* look = nullptr;
+
+/// Gives back what the toolkit holds before leaks are counted.
+class End_Of_Application : public testing::Environment {
+  public:
+    void TearDown() override {
+        qInstallMessageHandler(nullptr);
+        delete look;
+        delete application;
+    }
+};
+[[maybe_unused]] testing::Environment* const end_of_application =
+    testing::AddGlobalTestEnvironment(new End_Of_Application);
+
 QPalette palette_of(const QColor& window, const QColor& base, const QColor& text) {
     QPalette palette(window);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
@@ -30,15 +45,14 @@ QPalette palette_of(const QColor& window, const QColor& base, const QColor& text
 }  // namespace
 
 QApplication& test_application() {
-    static int count = 1;
-    static char name[] = "shell_test";
-    static char* arguments[] = {name, nullptr};
-    static QApplication* const application = [] {
-        auto* const made = new QApplication(count, arguments);
-        new Look_Keeper;
+    if (!application) {
+        static int count = 1;
+        static char name[] = "shell_test";
+        static char* arguments[] = {name, nullptr};
+        application = new QApplication(count, arguments);
+        look = new Look_Keeper;
         qInstallMessageHandler(fail_on_warnings);
-        return made;
-    }();
+    }
     return *application;
 }
 
