@@ -34,10 +34,11 @@ int run(const velk::Options& options) {
     velk::Velk_Window window(document, desktop);
     const velk::Unix_Signals ending([&window] { window.close(); });
     std::unique_ptr<velk::Tour> tour;
-    window.show();
-    if (!options.tour.empty())
+    if (options.tour.empty())
+        window.show();
+    else
         tour = std::make_unique<velk::Tour>(document, window, options.tour);
-    else if (options.connect)
+    if (!tour && options.connect)
         QTimer::singleShot(0, &window, [&document] { document.OnBT_Refresh(); });
     const int ended = QApplication::exec();
     document.windowWillClose();  // in case the loop has ended by another way than the window's

@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QMessageBox>
 #include <QMouseEvent>
+#include <QScreen>
 #include <algorithm>
 #include <cctype>
 #include <cstdio>
@@ -64,8 +65,9 @@ bool all_guards_are_up(const Section& section) {
 Tour::Tour(MainDocument& document, Velk_Window& window, std::string folder)
     : document_(document), window_(window), folder_(std::move(folder)) {
     window_.setFixedSize(size_of_pictures);
-    // Out of the way, so that no button looks touched in the pictures.
-    QCursor::setPos(window_.mapToGlobal(window_.rect().bottomRight() - QPoint(9, 9)));
+    // The mouse is out of the way before the window comes: no button looks touched in a picture.
+    QCursor::setPos(QGuiApplication::primaryScreen()->geometry().bottomRight());
+    window_.show();
     timer_.setInterval(milliseconds_between_looks);
     connect(&timer_, &QTimer::timeout, this, &Tour::look);
     connect(qApp, &QCoreApplication::aboutToQuit, this, [this] {

@@ -21,7 +21,7 @@ class Tour : public QObject {
     Q_OBJECT
 
   public:
-    /// The window must be shown already. `folder` is made when it is not there.
+    /// Shows the window. `folder` is made when it is not there.
     Tour(MainDocument& document, Velk_Window& window, std::string folder);
 
     /// For the program's end: 0, or 1 when a stop was not reached. The reason was printed then.

@@ -3,6 +3,7 @@
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QHBoxLayout>
+#include <QScreen>
 #include <QTimer>
 #include <utility>
 
@@ -21,6 +22,7 @@ namespace {
 
 constexpr QSize least_size{860, 560};
 constexpr QSize first_size{1180, 760};
+constexpr QSize room_of_the_frame{16, 48};  // what a desktop may draw around the window
 
 }  // namespace
 
@@ -28,7 +30,7 @@ Velk_Window::Velk_Window(MainDocument& document, Qt_Desktop& desktop)
     : document_(document), desktop_(desktop) {
     setObjectName(QStringLiteral("Velk_Window"));
     setMinimumSize(least_size);
-    resize(first_size);
+    resize(first_size.boundedTo(screen()->availableSize() - room_of_the_frame));
     build();
     binding_.bind(document.window_title, this,
                   [this] { setWindowTitle(shown(document_.window_title.text())); });
