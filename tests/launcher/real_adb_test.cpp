@@ -23,7 +23,8 @@ std::string free_port() {
 
 TEST(Real_Adb, is_read_like_an_older_one_keeps_its_server_and_is_not_waited_for) {
     const Words environment{"VELK_ADB=", "ADB_USB=0", "ADB_EMU=0",
-                            "ANDROID_ADB_SERVER_PORT=" + free_port()};
+                            "ANDROID_ADB_SERVER_PORT=" + free_port(),
+                            "ANDROID_SDK_HOME=" + testing::TempDir()};
     EXPECT_EQ(launch(environment, {"devices"}).output, "List of devices attached \n\n");
     EXPECT_EQ(launch(environment, {"devices"}).errors, "") << "its server had to be started again";
     for (const char* const command : {"uninstall", "pull", "push", "install"}) {

@@ -1,0 +1,12 @@
+#!/usr/bin/env bash
+# The whole program at work: a tour of the demo phone ends well, has found its contacts and has left
+# a picture of them.
+#
+#   tour_test.sh with_demo_phone.sh VELK
+set -euo pipefail
+folder=$(mktemp -d)
+trap 'rm -rf "$folder"' EXIT
+printed=$(QT_QPA_PLATFORM=offscreen VELK_BIN=$(dirname "$2") "$1" "$2" --tour "$folder")
+grep -q '^Contacts: 240 rows$' <<<"$printed"
+grep -q '^Toolbar: SMS(1500)$' <<<"$printed"
+[ -s "$folder"/*-contacts.png ]
