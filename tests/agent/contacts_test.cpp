@@ -9,6 +9,7 @@ namespace velk {
 namespace {
 
 using namespace std::string_literals;
+using namespace std::string_view_literals;
 using CONTACT = sock_apk::CONTACT;
 
 std::string number(std::size_t value) {
@@ -107,20 +108,28 @@ TEST(Contacts, DamagedBytesAreReadWithinTheirBounds) {
     sock_apk::one_contact("\0\0", 60000, 60000, 60000, 180012);
 }
 
+/// The pieces one behind the other.
+std::string joined(std::initializer_list<std::string_view> pieces) {
+    std::string all;
+    for (const std::string_view piece : pieces) all.append(piece);
+    return all;
+}
+
 TEST(Contacts, EditRequestsHaveTheAgentsLayout) {
     EXPECT_EQ(sock_apk::get_add_contact_command("Bob", "12"),
-              "\x35\0\x0C\0\0\0\x08\0\0\0"s + "Bob*12*|");
-    EXPECT_EQ(sock_apk::get_del_contact_command("42"), "\x7A\0\x07\0\0\0\x03\0\0\0"s + "42|");
+              joined({"\x35\0\x0C\0\0\0\x08\0\0\0"sv, "Bob*12*|"}));
+    EXPECT_EQ(sock_apk::get_del_contact_command("42"),
+              joined({"\x7A\0\x07\0\0\0\x03\0\0\0"sv, "42|"}));
     EXPECT_EQ(sock_apk::get_modify_contact_command("Al", "9", "300"),
-              "\x7B\0\x0F\0\0\0\x02\0\0\0"s + "Al" + "\x2C\1\0\0"s + "\1\0\0\0"s + "9");
+              joined({"\x7B\0\x0F\0\0\0\x02\0\0\0"sv, "Al", "\x2C\1\0\0"sv, "\1\0\0\0"sv, "9"}));
 }
 
 TEST(Contacts, LengthsOfLongTextsWrapAndTheTextStillGoesOut) {
     const std::string name(130, 'n');
     EXPECT_EQ(sock_apk::get_modify_contact_command(name.c_str(), "9", "1"),
-              "\x7B\0\x0F\0\0\0\x02\0\0\0"s + name + "\1\0\0\0"s + "\1\0\0\0"s + "9");
+              joined({"\x7B\0\x0F\0\0\0\x02\0\0\0"sv, name, "\1\0\0\0"sv, "\1\0\0\0"sv, "9"}));
     EXPECT_EQ(sock_apk::get_add_contact_command(name.c_str(), "9"),
-              "\x35\0\x0A\0\0\0\x06\0\0\0"s + name + "*9*|");
+              joined({"\x35\0\x0A\0\0\0\x06\0\0\0"sv, name, "*9*|"}));
 }
 
 TEST(Contacts, TheNewIdIsReadAndTraced) {
