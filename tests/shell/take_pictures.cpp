@@ -14,16 +14,13 @@ namespace {
 
 using namespace velk;
 
-const char* const names[] = {"Ada Lindqvist",
-                             "محمد عبد الرحمن",
-                             "Øystein Ærø",
-                             "李小龙",
-                             "שלמה כהן",
-                             "Анна Петрова",
-                             "山田太郎",
-                             "José Ñuñez",
-                             "A name that is far too long to fit into any column of a small window "
-                             "and so has to end in an ellipsis somewhere before its end"};
+constexpr const char* long_name =
+    "A name that is far too long to fit into any column of a small window and so has to end in an "
+    "ellipsis somewhere before its end";
+
+const char* const names[] = {"Ada Lindqvist", "محمد عبد الرحمن", "Øystein Ærø",
+                             "林小雨",        "שלמה כהן",        "Анна Петрова",
+                             "山田太郎",      "José Ñuñez",      long_name};
 
 void add_contacts(int count) {
     Contacts_TableSource& contacts = *g_contacts_tablesource;
