@@ -7,6 +7,7 @@
 namespace velk {
 namespace {
 
+using namespace std::string_literals;
 using namespace std::string_view_literals;
 
 TEST(Text, FormattedTextsMayBeOfAnyLength) {
@@ -22,30 +23,56 @@ TEST(Text, ATextEndsAtItsFirstNul) {
     EXPECT_EQ(until_nul("\0"sv), "");
 }
 
-TEST(Text, OnlyWellFormedUtf8Passes) {
+TEST(Text, IllFormedPiecesAreFoundAndReplaced) {
+    const std::string bad = "\xEF\xBF\xBD";
     const struct {
         const char* what;
         std::string_view bytes;
-        bool well_formed;
+        std::string shown;
+        int units;
     } cases[] = {
-        {"nothing", "", true},
-        {"a NUL among letters", "a\0b"sv, true},
-        {"two bytes", "\xC3\xAB", true},
-        {"three bytes", "\xE6\x9D\x8E", true},
-        {"four bytes", "\xF0\x9F\x98\x80", true},
-        {"highest number", "\xF4\x8F\xBF\xBF", true},
-        {"beyond the highest", "\xF4\x90\x80\x80", false},
-        {"surrogate", "\xED\xA0\x80", false},
-        {"overlong in two", "\xC1\xBF", false},
-        {"overlong in three", "\xE0\x9F\xBF", false},
-        {"overlong in four", "\xF0\x8F\xBF\xBF", false},
-        {"stray continuation", "a\x80", false},
-        {"cut off in two", "\xC3", false},
-        {"cut off in four", "\xF0\x9F\x98", false},
-        {"broken in the middle", "\xE6\x9Dx", false},
-        {"no lead byte", "\xFF", false},
+        {"nothing", "", "", 0},
+        {"a NUL among letters", "a\0b"sv, "a\0b"s, 3},
+        {"two bytes", "\xC3\xAB", "\xC3\xAB", 1},
+        {"three bytes", "\xE6\x9D\x8E", "\xE6\x9D\x8E", 1},
+        {"four bytes", "\xF0\x9F\x98\x80", "\xF0\x9F\x98\x80", 2},
+        {"highest number", "\xF4\x8F\xBF\xBF", "\xF4\x8F\xBF\xBF", 2},
+        {"beyond the highest", "\xF4\x90\x80\x80", bad + bad + bad + bad, 4},
+        {"surrogate", "\xED\xA0\x80", bad + bad + bad, 3},
+        {"overlong in two", "\xC1\xBF", bad + bad, 2},
+        {"overlong in three", "\xE0\x9F\xBF", bad + bad + bad, 3},
+        {"overlong in four", "\xF0\x8F\xBF\xBF", bad + bad + bad + bad, 4},
+        {"stray continuation", "a\x80", "a" + bad, 2},
+        {"cut off in two", "\xC3", bad, 1},
+        {"cut off in four", "\xF0\x9F\x98", bad, 1},
+        {"broken in the middle", "\xE6\x9Dx", bad + "x", 2},
+        {"no lead byte", "\xFF", bad, 1},
     };
-    for (const auto& each : cases) EXPECT_EQ(is_utf8(each.bytes), each.well_formed) << each.what;
+    for (const auto& each : cases) {
+        EXPECT_EQ(is_utf8(each.bytes), each.bytes == each.shown) << each.what;
+        EXPECT_EQ(as_utf8(each.bytes), each.shown) << each.what;
+        EXPECT_EQ(utf16_length(each.bytes), each.units) << each.what;
+    }
+}
+
+TEST(Text, SearchesIgnoreCaseInEveryScript) {
+    const struct {
+        const char *text, *what;
+        bool found;
+    } cases[] = {
+        {"Anna", "NN", true}, {"ÄRGER λόγος", "ärger Λ", true},
+        {"aab", "ab", true},  {"Anna", "", false},
+        {"", "a", false},     {"ab", "abc", false},
+        {"жук", "ЖУК", true}, {"a\xFF", "\xFE", true},
+    };
+    for (const auto& each : cases)
+        EXPECT_EQ(contains_ignoring_case(each.text, each.what), each.found) << each.text;
+}
+
+TEST(Text, PiecesAreReplacedFromTheLeftAndOnlyOnce) {
+    EXPECT_EQ(replace_all("aaa\n\n", "\n"sv, "<br>"), "aaa<br><br>");
+    EXPECT_EQ(replace_all("aaa", "aa"sv, "a"), "aa");
+    EXPECT_EQ(replace_all("abc", ""sv, "x"), "abc");
 }
 
 TEST(Text, NumbersAreReadAsFarAsTheyGoAndWrapAt32Bits) {
