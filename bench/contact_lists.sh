@@ -8,20 +8,11 @@ cd "$(dirname "$0")/.."
 build=$(cd "${1:-build/release}" && pwd)
 export VELK_BIN=$build/bin
 
-measure() {
-    local adb=$VELK_BIN/adb
-    "$adb" install -r "$VELK_BIN/velk.phone.android.PhoneConnActivity.apk" >/dev/null
-    "$adb" shell am start -a android.intent.action.Main -n velk.phone.android/.PhoneConnActivity >/dev/null
-    "$adb" shell am broadcast -a openUSBConnect >/dev/null
-    "$adb" forward tcp:12300 tcp:12186 >/dev/null
-    "$1/bench/contact_lists" 100 "$2" 2>&1 >/dev/null
-}
-export -f measure
-
 for packet in 4096 262144; do
     for contacts in 160 240; do
         printf 'packets of %6d bytes, %d contacts: ' "$packet" "$contacts"
         DEMO_PHONE_OPTIONS="--packet $packet --contacts $contacts --long-names" \
-            scripts/with_demo_phone.sh bash -c 'measure "$@"' measure "$build" "$contacts"
+            scripts/with_demo_phone.sh bench/with_agent.sh \
+            "$build/bench/contact_lists" 100 "$contacts" 2>&1 >/dev/null
     done
 done

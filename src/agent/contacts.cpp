@@ -4,6 +4,7 @@
 #include "agent/bytes.h"
 #include "agent/channel.h"
 #include "agent/contact_replies.h"
+#include "agent/edit_request.h"
 #include "agent/sock_apk.h"
 #include "base/text.h"
 #include "base/trace.h"
@@ -17,17 +18,6 @@ constexpr std::size_t reply_header = 7;  // bytes in front of a reply's content
 constexpr char code_add = '5';
 constexpr char code_delete = 'z';
 constexpr char code_modify = '{';
-
-/// A number of a request: one byte, which wraps at 128, and three zeros.
-std::string one_byte_length(std::size_t length) {
-    return static_cast<char>(sock_apk::toascii(static_cast<int>(length))) + std::string(3, '\0');
-}
-
-/// A request: its code, the length of all that follows, then the first field's length and content.
-std::string edit_request(char code, std::size_t first_length, const std::string& content) {
-    return code + std::string(1, '\0') + one_byte_length(4 + content.size()) +
-           one_byte_length(first_length) + content;
-}
 
 }  // namespace
 
@@ -98,8 +88,7 @@ sock_apk::CONTACT sock_apk::one_contact(const std::string& record, int L1, int L
 }
 
 std::string sock_apk::get_add_contact_command(const char* name, const char* tel) {
-    const std::string content = std::string(name) + "*" + tel + "*|";
-    return edit_request(code_add, content.size(), content);
+    return edit_request(code_add, std::string(name) + "*" + tel + "*|");
 }
 
 std::string sock_apk::get_modify_contact_command(const char* name, const char* tel,
@@ -109,8 +98,7 @@ std::string sock_apk::get_modify_contact_command(const char* name, const char* t
 }
 
 std::string sock_apk::get_del_contact_command(const char* ID) {
-    const std::string content = std::string(ID) + "|";
-    return edit_request(code_delete, content.size(), content);
+    return edit_request(code_delete, std::string(ID) + "|");
 }
 
 std::string sock_apk::add_one_contact(const char* name, const char* tel) {
@@ -127,15 +115,11 @@ std::string sock_apk::get_contact_id(const std::string& add_reply) {
 }
 
 bool sock_apk::modify_one_contact(const char* name, const char* tel, const char* ID) {
-    const std::string command = get_modify_contact_command(name, tel, ID);
-    trace_request(command);
-    return !send_command(command).empty();
+    return is_answered(get_modify_contact_command(name, tel, ID));
 }
 
 bool sock_apk::del_one_contact(const char* ID) {
-    const std::string command = get_del_contact_command(ID);
-    trace_request(command);
-    return !send_command(command).empty();
+    return is_answered(get_del_contact_command(ID));
 }
 
 }  // namespace velk

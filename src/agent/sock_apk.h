@@ -27,6 +27,17 @@ class sock_apk {
         std::string tel;
     };
 
+    /// Texts as the agent sent them, byte for byte; the last four are decimal numbers.
+    struct SMS_RECORD {
+        std::string TEL;  // the other party's number
+        std::string TEXT;
+        std::string DATE;
+        std::string TYPE;
+        std::string ID;
+        std::string threadID;
+        std::string read;
+    };
+
     // --- single requests (requests.cpp) -------------------------------------------------------
     // A code is the decimal text of a request's number, of which the low 7 bits are sent.
 
@@ -67,12 +78,51 @@ class sock_apk {
                                                   const char* ID);
     static std::string get_del_contact_command(const char* ID);
 
-    // --- bare commands (commands.cpp) ---------------------------------------------------------
+    // --- messages (sms.cpp) --------------------------------------------------------------------
+
+    /// Appends the phone's messages in the agent's order. The result is the last chunk's bytes, of
+    /// which nobody makes use.
+    std::string send_command_get_sms(const char* code, std::vector<SMS_RECORD>& messages);
+    /// Appends the whole records from `start` on and gives what is left behind them: a record that
+    /// is not whole yet, or the bare header that ends the list. `first` and `second_offset` have no
+    /// effect.
+    static std::string get_sms_data_to_stru_array(const std::string& data, int length, int first,
+                                                  std::vector<SMS_RECORD>& messages, int start,
+                                                  int second_offset);
+    /// One message out of its record: three texts of L1, L2 and L3 bytes, each behind its length,
+    /// and four numbers.
+    static SMS_RECORD one_sms(const std::string& record, int L1, int L2, int L3, int length);
+
+    // True when the agent answered at all. Each is for phones of another kind, which cannot be
+    // told apart: all three are sent, in this order, and the last one's result counts.
+    bool del_one_sms(const char* ID, const char* threadID);
+    bool del_one_sms_for_NoS4(const char* ID, const char* threadID);
+    bool del_one_sms_for_ver2(const char* ID, const char* threadID);
+    /// The raw reply; empty when the agent cannot be reached.
+    std::string send_sms(const char* text, const char* number);
+
+    // The requests' bytes. Of the two numbers of a delete only the low byte goes out; the one-byte
+    // lengths of a message to send wrap at 128.
+    static std::string get_del_sms_command(const char* ID, const char* threadID, int variant);
+    static std::string get_send_sms_command(const char* text, const char* number);
+
+    // --- commands (commands.cpp) --------------------------------------------------------------
+    // True when the agent answered at all. The one-byte lengths in the requests wrap at 128.
 
     /// The six bytes of a command without arguments.
     static std::string get_command(int code);
-    /// Sends it; true when the agent answered.
     bool do_command(int code);
+
+    /// Tells the phone's catalogue of a file that was copied there, whatever its kind.
+    bool add_one_for_music_image_video_book(int code, const char* path);
+    /// Takes an entry out of it.
+    bool del_one_for_music_image_video(int code, const char* id, const char* path);
+    bool del_one_for_book(int code, const char* path);
+    static std::string add_command_for_music_image_video_book(int code, const char* path);
+    /// On the wire the path comes first.
+    static std::string del_command_for_music_image_video(int code, const char* id,
+                                                         const char* path);
+    static std::string del_command_for_book(int code, const char* path);
 
     int getCommand_DelMusicFile() const { return del_music_file_; }
     int getCommand_DelVideoFile() const { return del_video_file_; }
@@ -111,6 +161,9 @@ class sock_apk {
     static std::string get_your_name(const char* name);
 
   private:
+    /// Traces and sends a command; true when anything came back.
+    bool is_answered(const std::string& command);
+
     std::int32_t del_music_file_ = 80;
     std::int32_t del_video_file_ = 82;
     std::int32_t del_book_file_ = 57;

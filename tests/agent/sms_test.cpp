@@ -1,0 +1,165 @@
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "agent/carried_list.h"
+#include "agent/sock_apk.h"
+#include "base/text.h"
+#include "support/agent_double.h"
+
+namespace velk {
+namespace {
+
+using namespace std::string_literals;
+using SMS_RECORD = sock_apk::SMS_RECORD;
+
+std::string text(const std::string& bytes) {
+    return Agent_Double::number(bytes.size()) + bytes;
+}
+std::string two_bytes(std::size_t value) {
+    return Agent_Double::number(value).substr(2);
+}
+std::string record(const std::string& tel, const std::string& body, std::size_t id) {
+    return text(tel) + text(body) + text("2024") + two_bytes(1) + Agent_Double::number(id) +
+           Agent_Double::number(5) + two_bytes(0);
+}
+std::string packet(const std::string& records) {
+    return "\0/"s + Agent_Double::number(records.size() + 1) + "\0"s + records;
+}
+
+std::string line(const SMS_RECORD& sms) {
+    return sms.TEL + "," + sms.TEXT + "," + sms.DATE + "," + sms.TYPE + "," + sms.ID + "," +
+           sms.threadID + "," + sms.read;
+}
+
+TEST(Sms, AChunkGivesItsWholeRecordsAndLeavesTheRest) {
+    const std::string one = record("5", "A", 7), two = record("6", "\xFF\0b\n"s, 300);
+    const std::string header = packet("");
+    const struct {
+        const char* what;
+        std::string data;
+        int start;
+        std::size_t records;
+        std::string left;
+    } cases[] = {
+        {"two records", one + two, 0, 2, ""},
+        {"behind the reply's header", header + one, 7, 1, ""},
+        {"a header between them", one + packet(two), 0, 2, ""},
+        {"a header at the end", one + header, 0, 1, header},
+        {"a header that is cut", one + header.substr(0, 6), 0, 1, ""},
+        {"fewer than four bytes", one + two.substr(0, 3), 0, 1, two.substr(0, 3)},
+        {"cut in its first text", one + two.substr(0, 5), 0, 1, two.substr(0, 5)},
+        {"cut in a length", one + two.substr(0, 15), 0, 1, two.substr(0, 15)},
+        {"one byte short", one + two.substr(0, two.size() - 1), 0, 1,
+         two.substr(0, two.size() - 1)},
+        {"a start beyond the end", one, 500, 0, ""},
+        {"nothing", "", 7, 0, ""},
+    };
+    for (const auto& each : cases) {
+        std::vector<SMS_RECORD> messages;
+        EXPECT_EQ(sock_apk::get_sms_data_to_stru_array(
+                      each.data, static_cast<int>(each.data.size()), 1, messages, each.start, 0),
+                  each.left)
+            << each.what;
+        ASSERT_EQ(messages.size(), each.records) << each.what;
+        const std::string lines[] = {"5,A,2024,1,7,5,0", "6,\xFF\0b\n,2024,1,300,5,0"s};
+        for (std::size_t i = 0; i < messages.size(); ++i)
+            EXPECT_EQ(line(messages[i]), lines[i]) << each.what;
+    }
+}
+
+TEST(Sms, DamagedBytesAreReadWithinTheirBounds) {
+    std::vector<SMS_RECORD> messages;
+    sock_apk::get_sms_data_to_stru_array(record("5", "A", 7), 5000, 1, messages, 0, 0);
+    EXPECT_EQ(messages.size(), 1U);
+    EXPECT_EQ(line(sock_apk::one_sms("\0\0"s, 60000, 60000, 60000, 180024)), ",,,0,0,0,0");
+    for (unsigned seed = 0; seed < 2000; ++seed) {
+        std::mt19937 random(seed);
+        std::string data = record("5", "A", 7) + packet(record("6", "B", 8));
+        for (int i = 0; i < 3; ++i) data[random() % data.size()] = static_cast<char>(random());
+        data.resize(random() % data.size());
+        sock_apk::get_sms_data_to_stru_array(data, static_cast<int>(data.size()), 1, messages, 0,
+                                             0);
+    }
+}
+
+TEST(Sms, ARecordIsTraced) {
+    testing::internal::CaptureStdout();
+    const std::string bytes = record("5", "A", 7);
+    sock_apk::one_sms(bytes, 1, 1, 4, static_cast<int>(bytes.size()));
+    EXPECT_EQ(testing::internal::GetCapturedStdout(),
+              "TEL='5',TEXT='A',DATE='2024',TYPE=1,ID=7,threadID=5,read=0\n");
+}
+
+TEST(Sms, RequestsHaveTheAgentsLayout) {
+    const std::string long_text(130, 't');
+    const std::pair<std::string, std::string> cases[] = {
+        {sock_apk::get_del_sms_command("300", "5", 20), "N\0\x08\0\0\0\x2C\0\0\0\x05\x14\0\0"s},
+        {sock_apk::get_send_sms_command("hi", "123"), "2\0\x0B\0\0\0\x07\0\0\0"s + "123*|hi"},
+        {sock_apk::get_send_sms_command(long_text.c_str(), "1"),
+         "2\0\x09\0\0\0\x05\0\0\0"s + "1*|" + long_text},
+    };
+    for (const auto& [made, expected] : cases) EXPECT_EQ(made, expected);
+}
+
+TEST(SmsExchange, TheListEndsAtABareHeaderAndEveryChunkIsTraced) {
+    Agent_Double agent;
+    const std::string reply = packet(record("5", "A", 7)) + packet("");
+    Agent_Double::Reply open(reply);
+    open.end = Agent_Double::Reply::End::stay_silent;
+    agent.reply_to(47, open);
+    std::vector<SMS_RECORD> messages;
+    testing::internal::CaptureStdout();
+    sock_apk().send_command_get_sms("47", messages);
+    const std::string size = std::to_string(reply.size());
+    EXPECT_EQ(testing::internal::GetCapturedStdout(),
+              "\n\nsend:'/',[ASCII Value='47']\nEvery time Receive data length '" + size +
+                  "' :\nTEL='5',TEXT='A',DATE='2024',TYPE=1,ID=7,threadID=5,read=0\n"
+                  "recv is 47 value and to break!\n\nreceive string length =" +
+                  size + "\ncount :1\n");
+}
+
+TEST(SmsExchange, EveryMessageArrivesHoweverTheReplyIsCut) {
+    Agent_Double agent;
+    for (const std::size_t per_packet : {1, 20}) {
+        std::string reply, records;
+        constexpr std::size_t count = 2000;
+        std::mt19937 random(static_cast<unsigned>(per_packet));
+        for (std::size_t i = 1; i <= count; ++i) {
+            // Some are longer than a chunk.
+            records += record("5", std::string(random() % (i % 100 == 0 ? 9000 : 150), 't'), i);
+            if (i % per_packet == 0) reply += packet(std::exchange(records, ""));
+        }
+        reply += packet("");
+        Agent_Double::Reply cut;
+        for (std::size_t place = 0; place < reply.size();) {
+            const std::size_t length = 1 + random() % 4096;
+            cut.pieces.push_back({reply.substr(place, length)});
+            place += length;
+        }
+        agent.reply_to(47, cut);
+        std::vector<SMS_RECORD> messages;
+        sock_apk().send_command_get_sms("47", messages);
+        ASSERT_EQ(messages.size(), count) << per_packet;
+        for (std::size_t i = 0; i < count; ++i) EXPECT_EQ(messages[i].ID, std::to_string(i + 1));
+    }
+}
+
+TEST(SmsExchange, EditsReachTheAgentAndAnyReplyIsSuccess) {
+    Agent_Double agent;
+    agent.reply_to('2', "\0\1"s);
+    sock_apk apk;
+    EXPECT_EQ(apk.send_sms("hi", "123"), "\0\1"s);
+    EXPECT_FALSE(apk.del_one_sms("7", "5"));
+    agent.reply_to('N', "\0"s);
+    EXPECT_TRUE(apk.del_one_sms_for_NoS4("7", "5"));
+    EXPECT_TRUE(apk.del_one_sms_for_ver2("7", "5"));
+    EXPECT_EQ(agent.requests(),
+              (std::vector<std::string>{sock_apk::get_send_sms_command("hi", "123"),
+                                        sock_apk::get_del_sms_command("7", "5", 2),
+                                        sock_apk::get_del_sms_command("7", "5", 1),
+                                        sock_apk::get_del_sms_command("7", "5", 20)}));
+}
+
+}  // namespace
+}  // namespace velk
