@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "agent/sock_apk.h"
+#include "base/text.h"
 
 namespace velk {
 namespace {
@@ -34,70 +35,35 @@ TEST(Codec, NumbersGoOutAsTheAgentReadsThem) {
     }
 }
 
-TEST(Codec, CodesAndOneByteLengthsWrapAt128) {
-    EXPECT_EQ(sock_apk::toascii(353), 97);
-    EXPECT_EQ(sock_apk::toascii(128), 0);
-    EXPECT_EQ(sock_apk::toascii(200), 72);
-    EXPECT_EQ(sock_apk::toascii(-1), 127);
-}
-
-TEST(Codec, SizesOfTheSummaryChangeTheirUnitOnlyAboveItsThreshold) {
+TEST(Codec, SizesChangeTheirUnitOnlyAboveItsThreshold) {
     const struct {
-        std::int32_t bytes;
-        const char* text;
+        const char *decimal, *in_the_summary, *in_a_list;
     } cases[] = {
-        {1073741825, "1.00GB"},
-        {1073741824, "1024.00MB"},
-        {2147483647, "2.00GB"},
-        {1048577, "1.00MB"},
-        {1048576, "1024.00KB"},
-        {1025, "1.00KB"},
-        {1024, "0B"},
-        {512, "0B"},
-        {0, "0B"},
-        {-5, ""},
-        {705032704, "672.37MB"},
+        {"1610612736", "1.50GB", "1.50 GB"},
+        {"1073741824", "1024.00MB", "1024.00 MB"},
+        {"1048577", "1.00MB", "1.00 MB"},
+        {"1048576", "1024.00KB", "1024.00 KB"},
+        {"1536", "1.50KB", "1.50 KB"},
+        {"1024", "0B", "1024.00 B"},
+        {"512", "0B", "512.00 B"},
+        {"abc", "0B", "0.00 B"},
+        {"5000000000", "672.37MB", "672.37 MB"},
+        {"-5", "", "-5.00 B"},
     };
-    for (const auto& each : cases) EXPECT_EQ(sock_apk::format_size(each.bytes), each.text);
-}
-
-TEST(Codec, SizesOfListsAlwaysHaveABlankAndTwoDecimals) {
-    const struct {
-        const char *decimal, *text;
-    } cases[] = {
-        {"1536", "1.50 KB"},
-        {"1024", "1024.00 B"},
-        {"512", "512.00 B"},
-        {"0", "0.00 B"},
-        {"abc", "0.00 B"},
-        {"1048576", "1024.00 KB"},
-        {"1073741824", "1024.00 MB"},
-        {"1610612736", "1.50 GB"},
-        {"5000000000", "672.37 MB"},
-        {"-5", "-5.00 B"},
-    };
-    for (const auto& each : cases) EXPECT_EQ(sock_apk::get_size(each.decimal), each.text);
-}
-
-TEST(Codec, DurationsAreCutToWholeSecondsAndTraced) {
-    const struct {
-        const char *milliseconds, *text;
-    } cases[] = {{"3725999", "01:02:05"},
-                 {"999", "00:00:00"},
-                 {"1000", "00:00:01"},
-                 {"2147483647", "596:31:23"},
-                 {"", "00:00:00"}};
     for (const auto& each : cases) {
-        testing::internal::CaptureStdout();
-        EXPECT_EQ(sock_apk::get_time(each.milliseconds), each.text);
-        EXPECT_EQ(testing::internal::GetCapturedStdout(), each.text);
+        EXPECT_EQ(sock_apk::format_size(to_int32(each.decimal)), each.in_the_summary);
+        EXPECT_EQ(sock_apk::get_size(each.decimal), each.in_a_list);
     }
 }
 
-TEST(Codec, BareCommandsCarryTheirCodeAndFiveZeros) {
-    const sock_apk agent;
-    EXPECT_EQ(sock_apk::get_command(agent.getCommand_DelAllContacts()), "x\0\0\0\0\0"s);
-    EXPECT_EQ(sock_apk::get_command(353), "a\0\0\0\0\0"s);
+TEST(Codec, DurationsAreCutToWholeSecondsAndTraced) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"3725999", "01:02:05"}, {"999", "00:00:00"}, {"2147483647", "596:31:23"}};
+    for (const auto& [milliseconds, text] : cases) {
+        testing::internal::CaptureStdout();
+        EXPECT_EQ(sock_apk::get_time(milliseconds), text);
+        EXPECT_EQ(testing::internal::GetCapturedStdout(), text);
+    }
 }
 
 }  // namespace
