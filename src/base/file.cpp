@@ -85,9 +85,13 @@ class Replacement {
     Replacement& operator=(const Replacement&) = delete;
 
     bool possible() const { return file_.is_open(); }
-    bool write(std::string_view content, const struct stat* before) {
-        return (before == nullptr || ::fchmod(file_.number(), before->st_mode & mode_bits) == 0) &&
-               write_all(file_.number(), content) && ::fsync(file_.number()) == 0 && file_.close();
+    /// False where the disk or its owner does not let the new file be like the old one.
+    bool resemble(const struct stat& before) {
+        return ::fchown(file_.number(), before.st_uid, before.st_gid) == 0 &&
+               ::fchmod(file_.number(), before.st_mode & mode_bits) == 0;
+    }
+    bool write(std::string_view content) {
+        return write_all(file_.number(), content) && ::fsync(file_.number()) == 0 && file_.close();
     }
     bool put_in_place() {
         if (::rename(name_.c_str(), target_.c_str()) != 0) return false;
@@ -123,15 +127,15 @@ bool write_in_place(const std::filesystem::path& target, std::string_view conten
 
 bool write_new(const std::filesystem::path& target, std::string_view content) {
     Replacement file(target);
-    return file.possible() && file.write(content, nullptr) && file.put_in_place();
+    return file.possible() && file.write(content) && file.put_in_place();
 }
 
 bool write_over(const std::filesystem::path& target, std::string_view content,
                 const struct stat& before) {
     if (S_ISREG(before.st_mode) && before.st_nlink == 1) {
         Replacement file(target);
-        if (file.possible()) {
-            if (!file.write(content, &before)) return false;
+        if (file.possible() && file.resemble(before)) {
+            if (!file.write(content)) return false;
             if (file.put_in_place()) return true;
         }
     }
