@@ -11,8 +11,8 @@ export VELK_BIN=$build/bin
 for packet in 4096 262144; do
     for contacts in 160 240; do
         printf 'packets of %6d bytes, %d contacts: ' "$packet" "$contacts"
-        DEMO_PHONE_OPTIONS="--packet $packet --contacts $contacts --long-names" \
+        { DEMO_PHONE_OPTIONS="--packet $packet --contacts $contacts --long-names" \
             scripts/with_demo_phone.sh bench/with_agent.sh \
-            "$build/bench/contact_lists" 100 "$contacts" 2>&1 >/dev/null
+            "$build/bench/contact_lists" 100 "$contacts" >/dev/null; } 2>&1
     done
 done

@@ -13,8 +13,8 @@ export VELK_BIN=$build/bin
 for packet in 4096 262144; do
     for per_packet in 20 1; do
         printf 'packets of %6d bytes, %2d messages each: ' "$packet" "$per_packet"
-        DEMO_PHONE_OPTIONS="--packet $packet --messages $messages --messages-per-packet $per_packet" \
+        { DEMO_PHONE_OPTIONS="--packet $packet --messages $messages --messages-per-packet $per_packet" \
             scripts/with_demo_phone.sh bench/with_agent.sh \
-            "$build/bench/message_lists" 100 "$messages" 2>&1 >/dev/null
+            "$build/bench/message_lists" 100 "$messages" >/dev/null; } 2>&1
     done
 done
