@@ -4,16 +4,16 @@
 
 #include "agent/sock_apk.h"
 #include "base/text.h"
-#include "ui/busy_line.h"
-#include "ui/desktop.h"
+#include "managers/filling.h"
 #include "ui/program_wide.h"
-#include "ui/worker.h"
 
 namespace velk {
 
 namespace {
 
 constexpr const char* command_list_contacts = "14";
+constexpr const char* list_is_too_long =
+    "The phone's list of contacts is longer than its agent can send.";
 
 /// A record's ID and name run on into the bytes behind them; a text ends at its first NUL.
 Contacts_TableSource_Column row_of(const sock_apk::CONTACT& contact, std::size_t number) {
@@ -43,18 +43,49 @@ Contacts_TableSource_Column::row_columns() {
     return columns;
 }
 
-Contacts_TableSource::Contacts_TableSource(Main_Window& window) : window_(window) {
+Contacts_TableSource::Contacts_TableSource(Main_Window& window)
+    : Table_Source(window, "m_LB_Quiet_Contacts") {
     g_contacts_tablesource = this;
     m_table.on_selection([this] { OnTableView_SelectedRow(); });
     section.title = "Contacts";
     section.empty_text = "The contacts on your phone are listed here.";
+    section.search_text = "Search names and numbers";
     section.table = &m_table;
     section.status = &m_LB_Tips_Contacts;
-    section.commands = {{.name = "OnBT_Contacts_Refresh",
-                         .caption = "Refresh",
-                         .icon = "refresh",
-                         .run = [this] { OnBT_Contacts_Refresh(); },
-                         .guard = &g_can_click_contacts_load}};
+    set_commands({
+        {.name = "OnBT_AddContacts",
+         .caption = "Add",
+         .icon = "add",
+         .run = [this] { OnBT_AddContacts(); }},
+        {.name = "OnBT_ModifyContacts",
+         .caption = "Modify",
+         .icon = "modify",
+         .run = [this] { OnBT_ModifyContacts(); }},
+        {.name = "OnBT_DeleteContacts",
+         .caption = "Delete",
+         .icon = "delete",
+         .run = [this] { OnBT_DeleteContacts(); },
+         .on_delete_key = true},
+        {.name = "OnBT_Contacts_DelAll",
+         .caption = "Delete All",
+         .icon = "delete_all",
+         .run = [this] { OnBT_Contacts_DelAll(); },
+         .guard = &g_can_click_contacts_delete_all},
+        {.name = "OnBT_Contacts_Refresh",
+         .caption = "Refresh",
+         .icon = "refresh",
+         .run = [this] { OnBT_Contacts_Refresh(); },
+         .guard = &g_can_click_contacts_load},
+        {.name = "OnBT_ContactsExport",
+         .caption = "Export",
+         .icon = "export",
+         .run = [this] { OnBT_ContactsExport(); }},
+        {.name = "OnBT_ContactsImport",
+         .caption = "Import",
+         .icon = "import",
+         .run = [this] { OnBT_ContactsImport(); },
+         .guard = &g_can_click_contacts_import},
+    });
 }
 
 Contacts_TableSource::~Contacts_TableSource() {
@@ -72,44 +103,48 @@ void Contacts_TableSource::OnBT_Contacts_Refresh() {
 }
 
 void Contacts_TableSource::ContactsLoad() {
-    if (!g_can_click_contacts_load) return;
-    g_can_click_contacts_load = 0;
-    Worker::start("contacts", [this] {
-        TableView_FullData();
-        window_.desktop().post([] { g_can_click_contacts_load = 1; });
-    });
+    if (g_can_click_contacts_load) list_is_old_ = false;
+    start_guarded(desktop(), g_can_click_contacts_load, "contacts",
+                  [this](Held_Flag&) { TableView_FullData(); });
+}
+
+void Contacts_TableSource::reload_after_a_change() {
+    list_is_old_ = !g_can_click_contacts_load;
+    if (list_is_old_) g_table_contacts_need_refresh = 1;
+    OnBT_Contacts_Refresh();
 }
 
 void Contacts_TableSource::refresh_button_contacts_title() {
-    window_.set_contacts_title(format("Contacts(%d)", table_rows.count()));
+    window_.set_section_title(Toolbar_Section::contacts,
+                              format("Contacts(%d)", table_rows.count()));
     window_.set_BT_Caption_White();
 }
 
 void Contacts_TableSource::TableView_FullData() {
-    Desktop& desktop = window_.desktop();
-    const Busy_Note note(desktop, window_.busy_line(), "Waiting for the phone: contacts");
-    desktop.post([this] {
-        table_rows.clear();
-        m_table.reload();
+    const Busy_Note note = busy("Waiting for the phone: contacts");
+    Filling filling(desktop(), table_rows, m_table);
+    post([this] {
+        quiet.tell_of_list("");
         m_LB_Tips_Contacts.set_text("Loading ......");
         m_LB_Tips_Contacts.set_text(format("Loading '%d' contacts........", g_int_count_contacts));
     });
     std::vector<sock_apk::CONTACT> contacts;
-    sock_apk().send_command_get_contatcts_array(command_list_contacts, contacts);
-    for (std::size_t i = 0; i < contacts.size(); ++i)
-        desktop.post([this, row = row_of(contacts[i], i + 1)] { append(row); });
-    desktop.post([this, count = static_cast<int>(contacts.size())] {
-        m_LB_Tips_Contacts.set_text(format("There are %d contact(s) on your Mobile Phone.", count));
+    bool too_long = false;
+    sock_apk().send_command_get_contatcts_array(command_list_contacts, contacts, &too_long);
+    std::vector<Contacts_TableSource_Column> loaded;
+    for (const sock_apk::CONTACT& contact : contacts)
+        loaded.push_back(row_of(contact, loaded.size() + 1));
+    filling.append(std::move(loaded), [this](const Contacts_TableSource_Column& row) {
+        m_LB_Tips_Contacts.set_text(
+            format("Loading No.%s '%s'......", row.col_no.c_str(), row.col_name.c_str()));
+    });
+    filling.post([this, too_long, count = contacts.size()] {
+        m_LB_Tips_Contacts.set_text(
+            format("There are %zu contact(s) on your Mobile Phone.", count));
+        quiet.tell_of_list(too_long ? list_is_too_long
+                                    : remark_on_list(list_is_old_, g_int_count_contacts, count));
         refresh_button_contacts_title();
     });
-}
-
-void Contacts_TableSource::append(const Contacts_TableSource_Column& row) {
-    table_rows.push_back(row);
-    m_table.reload_appended();
-    m_table.scroll_to_last();
-    m_LB_Tips_Contacts.set_text(
-        format("Loading No.%s '%s'......", row.col_no.c_str(), row.col_name.c_str()));
 }
 
 }  // namespace velk

@@ -135,6 +135,7 @@ void MainDocument::read_storage(Summary_Reader& phone) {
 void MainDocument::read_counts(Summary_Reader& phone) {
     const std::string contacts = phone.value("65", "number of contacts");
     on_window([this, contacts] {
+        g_phone_was_changed = 0;
         g_int_count_contacts = to_int32(contacts);
         m_BT_Contacts.set_title("Contacts(" + contacts + ")");
     });

@@ -85,6 +85,12 @@ void MainDocument::Start_MultiThread() {
     });
 }
 
+void MainDocument::set_section_title(Toolbar_Section section, std::string title) {
+    const std::array buttons = {&m_BT_Contacts, &m_BT_SMS,   &m_BT_Apps, &m_BT_Music,
+                                &m_BT_Photo,    &m_BT_Video, &m_BT_Book};
+    buttons.at(static_cast<std::size_t>(section))->set_title(std::move(title));
+}
+
 void MainDocument::show(Label& label, std::string text) {
     on_window([&label, text = std::move(text)] { label.set_text(text); });
 }

@@ -99,9 +99,7 @@ class MainDocument : public Main_Window, public Window_Outlets, public Adb_Wrapp
 
     Desktop& desktop() override { return desktop_; }
     Busy_Line& busy_line() override { return busy; }
-    void set_contacts_title(std::string title) override {
-        m_BT_Contacts.set_title(std::move(title));
-    }
+    void set_section_title(Toolbar_Section section, std::string title) override;
     void set_BT_Caption_White() override;
     void show_message(const std::string& text) override;
 

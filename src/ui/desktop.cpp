@@ -1,9 +1,9 @@
 #include "ui/desktop.h"
 
-#include <atomic>
 #include <cassert>
 
 #include "base/interruptor.h"
+#include "ui/dialog.h"
 #include "ui/outlets.h"
 
 namespace velk {
@@ -75,28 +75,68 @@ bool Desktop::sleep(double seconds) {
     return Interruptor::current().sleep_for(std::chrono::duration<double>(seconds));
 }
 
-int Desktop::run_alert(const Alert& alert) {
+/// Lets `open` show a box on the user-interface thread, and waits for what it answers.
+template <class Answer>
+Answer Desktop::run_box(Answer when_closing,
+                        std::function<void(std::function<void(Answer)>)> open) {
     assert(!on_ui_thread());
-    const auto answer = std::make_shared<std::atomic<int>>(alert.last_button());
+    struct Answered {
+        std::mutex mutex;
+        Answer answer;
+    };
+    const auto answered = std::make_shared<Answered>();
+    answered->answer = std::move(when_closing);
     const auto done = std::make_shared<Awaited>();
-    post([this, alert, answer, promise = std::make_shared<Promise>(done)] {
-        std::erase_if(open_alerts_, [](const auto& open) { return open.expired(); });
-        open_alerts_.push_back(promise);
-        open_alert(alert, [answer, promise](int button) {
-            *answer = button;
+    post([this, open = std::move(open), answered, promise = std::make_shared<Promise>(done)] {
+        std::erase_if(open_boxes_, [](const auto& box) { return box.expired(); });
+        open_boxes_.push_back(promise);
+        open([answered, promise](Answer answer) {
+            {
+                const std::lock_guard lock(answered->mutex);
+                answered->answer = std::move(answer);
+            }
             promise->keep();
         });
     });
     done->wait();
-    return *answer;
+    const std::lock_guard lock(answered->mutex);
+    return answered->answer;
+}
+
+int Desktop::run_alert(const Alert& alert) {
+    return run_box<int>(alert.last_button(), [this, alert](std::function<void(int)> answered) {
+        open_alert(alert, std::move(answered));
+    });
+}
+
+std::string Desktop::run_file_panel(const File_Panel& panel) {
+    return run_box<std::string>({}, [this, panel](std::function<void(std::string)> chosen) {
+        open_file_panel(panel, std::move(chosen));
+    });
+}
+
+void Desktop::run_dialog(Dialog& dialog) {
+    run_box<bool>(false, [this, &dialog](const std::function<void(bool)>& closed) {
+        open_dialog(dialog, [closed] { closed(true); });
+    });
+}
+
+void Desktop::open_dialog(Dialog& dialog, std::function<void()> closed) {
+    dialog.bOK = false;
+    show_dialog(dialog, std::move(closed));
+}
+
+void Desktop::take_input(bool takes) {
+    takes_input_ = takes;
+    input_changed();
 }
 
 void Desktop::close_gate() {
     queue_.close();
-    // Alerts that the window still shows get no answer any more.
-    for (const std::weak_ptr<Promise>& open : open_alerts_)
+    // Boxes that the window still shows get no answer any more.
+    for (const std::weak_ptr<Promise>& open : open_boxes_)
         if (const auto promise = open.lock()) promise->keep();
-    open_alerts_.clear();
+    open_boxes_.clear();
 }
 
 }  // namespace velk

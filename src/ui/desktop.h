@@ -11,22 +11,12 @@
 #include <type_traits>
 #include <vector>
 
+#include "ui/boxes.h"
 #include "ui/ordered_queue.h"
 
 namespace velk {
 
-enum class Alert_Style { warning, informational };
-
-/// A modal box with a title, a text and buttons from first to last. The last one is the one that
-/// changes nothing: Return, Escape and closing the box press it.
-struct Alert {
-    std::string title;
-    std::string text;
-    std::vector<std::string> buttons;
-    Alert_Style style = Alert_Style::warning;
-
-    int last_button() const { return static_cast<int>(buttons.size()) - 1; }
-};
+class Dialog;
 
 class Desktop {
   public:
@@ -63,14 +53,32 @@ class Desktop {
 
     // --- workers only -----------------------------------------------------------------------
 
-    /// Shows the alert and waits for the person's answer, the index of the button. Only the
-    /// asking worker waits; all other work goes on. Gives the last button when the gate closes.
+    // Each shows a box and waits for the person. Only the asking worker waits; all other work goes
+    // on. When the gate closes, it is as if the person had cancelled.
+
+    /// Gives the index of the pressed button.
     int run_alert(const Alert& alert);
+    /// Gives the chosen path, empty when the person cancelled.
+    std::string run_file_panel(const File_Panel& panel);
+    /// Returns when the dialog is closed; `dialog` must outlive the program's window.
+    void run_dialog(Dialog& dialog);
 
     // --- user-interface thread only ---------------------------------------------------------
 
     /// Shows the alert and returns at once; `answered` gets the index of the pressed button.
     virtual void open_alert(const Alert& alert, std::function<void(int)> answered) = 0;
+
+    /// Shows the panel and returns at once; `chosen` gets the path, empty when cancelled.
+    virtual void open_file_panel(const File_Panel& panel,
+                                 std::function<void(std::string)> chosen) = 0;
+
+    /// Shows the dialog and returns at once; `closed` is called when it is closed in any way.
+    void open_dialog(Dialog& dialog, std::function<void()> closed);
+
+    /// While false, what stands on the screen gets no clicks and keys, but paints and can be
+    /// closed. A box that opens meanwhile is free.
+    void take_input(bool takes);
+    bool takes_input() const { return takes_input_; }
 
     virtual void beep() = 0;
 
@@ -84,6 +92,9 @@ class Desktop {
     void close_gate();
 
   protected:
+    virtual void show_dialog(Dialog& dialog, std::function<void()> closed) = 0;
+    virtual void input_changed() = 0;
+
     /// Asks the event loop to call run_turn() soon. Any thread.
     virtual void wake() = 0;
     void run_turn() { queue_.run_turn(); }
@@ -92,9 +103,12 @@ class Desktop {
     class Promise;
 
     void run_and_wait(Closure closure);
+    template <class Answer>
+    Answer run_box(Answer when_closing, std::function<void(std::function<void(Answer)>)> open);
 
     Ordered_Queue queue_;
-    std::vector<std::weak_ptr<Promise>> open_alerts_;  // that workers wait for
+    std::vector<std::weak_ptr<Promise>> open_boxes_;  // that workers wait for
+    bool takes_input_ = true;
 };
 
 }  // namespace velk

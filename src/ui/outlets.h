@@ -130,8 +130,17 @@ class Text_Field : public Outlet {
     const std::string& text() const { return text_; }
     void set_text(std::string text) { change(text_, std::move(text), "text"); }
 
+    /// For the window: the person has typed this.
+    void type(std::string text) {
+        text_ = std::move(text);
+        if (typed_) typed_();
+    }
+    /// Called after every change by typing, not after one by the program.
+    void on_typed(std::function<void()> handler) { typed_ = std::move(handler); }
+
   private:
     std::string text_;
+    std::function<void()> typed_;
 };
 
 }  // namespace velk

@@ -9,7 +9,7 @@
 
 #include <string>
 
-#include "ui/section.h"
+#include "ui/command.h"
 
 namespace velk {
 
@@ -32,11 +32,17 @@ inline Flag g_connected_adb = 0;         // the agent is deployed and the summar
 inline Flag g_is_to_print = 1;           // progress texts go to the status line
 inline std::string g_device_serial_number;
 
+/// 1 once anything was added, deleted, imported, sent, installed or uninstalled since the summary
+/// was read: what the phone counted then is no measure of its lists any more.
+inline Flag g_phone_was_changed = 0;
+
 // Actions that may start.
 inline Flag g_can_click_refresh = 1;
 inline Flag g_can_click_contacts_load = 1;
 inline Flag g_can_click_contacts_import = 1;
+inline Flag g_can_click_contacts_delete_all = 1;
 inline Flag g_can_click_sms_load = 1;
+inline Flag g_can_click_sms_delete_all = 1;
 inline Flag g_can_click_loading_animation = 1;
 inline Flag g_loading_animation_stop = 0;  // 1 asks the animation to stop
 

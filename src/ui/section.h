@@ -2,32 +2,31 @@
 // under it, and the buttons of its commands. The window draws them all from this description.
 #pragma once
 
-#include <functional>
 #include <string>
 #include <vector>
 
+#include "ui/command.h"
 #include "ui/outlets.h"
 #include "ui/table.h"
 
 namespace velk {
 
-/// A program-wide byte, 0 or 1, that belongs to the user-interface thread.
-using Flag = unsigned char;
-
-/// One button of a section.
-struct Command {
-    std::string name;     // its handler's name, the button's object name: "OnBT_Contacts_Refresh"
-    std::string caption;  // "Refresh"
-    std::string icon;     // a picture of the resources without folder and ending: "refresh"
-    std::function<void()> run;
-    const Flag* guard = nullptr;  // the button is disabled while this is 0
+/// A pane that shows the selected row in full.
+struct Detail {
+    Label* title = nullptr;     // whom or what it is about
+    Label* subtitle = nullptr;  // when
+    Label* text = nullptr;      // may have many lines
+    std::string empty_text;     // what it says while nothing is selected
 };
 
 struct Section {
-    std::string title;       // the table's accessible name: "Contacts"
-    std::string empty_text;  // what an empty table says it would show
+    std::string title;        // the table's accessible name: "Contacts"
+    std::string empty_text;   // what an empty table says it would show
+    std::string search_text;  // what an empty search box says it looks for
     Table* table = nullptr;
     Label* status = nullptr;
+    Label* quiet = nullptr;         // the second line, under the status line
+    Detail detail = {};             // without a text there is no pane
     std::vector<Command> commands;  // left to right
 };
 

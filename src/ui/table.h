@@ -67,7 +67,23 @@ class Row_List : public Table_Rows {
     auto begin() const { return rows_.begin(); }
     auto end() const { return rows_.end(); }
     void push_back(Row row) { rows_.push_back(std::move(row)); }
-    void clear() { rows_.clear(); }
+    void clear() {
+        rows_.clear();
+        ++clears_;
+    }
+    /// How often it was emptied: by it who fills the list knows whether it is still his.
+    int clears() const { return clears_; }
+    /// Takes out the rows with these indexes, which are ascending; the others keep their order.
+    void erase(const std::vector<int>& indexes) {
+        auto next = indexes.begin();
+        int index = 0;
+        std::erase_if(rows_, [&](const Row&) {
+            const bool goes = next != indexes.end() && *next == index;
+            if (goes) ++next;
+            ++index;
+            return goes;
+        });
+    }
 
     const std::vector<Column>& columns() const override { return columns_; }
     int count() const override { return static_cast<int>(rows_.size()); }
@@ -95,6 +111,7 @@ class Row_List : public Table_Rows {
     }
 
     std::vector<Row> rows_;
+    int clears_ = 0;
     std::vector<Column> columns_;
 };
 
@@ -114,6 +131,11 @@ class Table : public Outlet {
     void reload();
     /// Rows were appended behind those that were there; everything else stays.
     void reload_appended() { changed(); }
+    /// Rows have other texts now; places and selection stay.
+    void reload_texts() {
+        ++new_texts_;
+        changed();
+    }
     /// Brings the last row into sight.
     void scroll_to_last();
     /// Index of the row last selected, -1 when none is.
@@ -127,6 +149,8 @@ class Table : public Outlet {
 
     /// Counts the reloads; the window compares it with the one it has drawn.
     int reloads() const { return reloads_; }
+    /// Counts the times that texts in rows have changed.
+    int new_texts() const { return new_texts_; }
     /// Counts the wishes to see the last row.
     int scrolls() const { return scrolls_; }
     /// The person selected these rows (ascending), `last` of them last.
@@ -139,6 +163,7 @@ class Table : public Outlet {
     std::vector<int> selected_;
     int last_selected_ = -1;
     int reloads_ = 0;
+    int new_texts_ = 0;
     int scrolls_ = 0;
     std::function<void()> selection_changed_;
 };

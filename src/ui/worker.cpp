@@ -43,15 +43,17 @@ void run(const std::string& name, std::function<void()> body,
 
 }  // namespace
 
-void Worker::start(const std::string& name, std::function<void()> body) {
+bool Worker::start(const std::string& name, std::function<void()> body) {
     Running& workers = all();
     const std::lock_guard lock(workers.mutex);
     const auto own = workers.interruptors.emplace(workers.interruptors.end());
     try {
         std::thread(run, name, std::move(body), own).detach();
+        return true;
     } catch (const std::system_error& failure) {
         workers.interruptors.erase(own);
         log_line("%s cannot be started: %s", name.c_str(), failure.what());
+        return false;
     }
 }
 

@@ -11,8 +11,8 @@ class Worker {
   public:
     /// Runs `body` on a thread of its own, which has an Interruptor of its own. `name` is the
     /// thread's name (the system shows its first 15 characters). Any thread may call. When the
-    /// system has no thread to give, that is logged and the body does not run.
-    static void start(const std::string& name, std::function<void()> body);
+    /// system has no thread to give, that is logged, the body does not run, and this gives false.
+    static bool start(const std::string& name, std::function<void()> body);
 
     /// How many are running.
     static int running();

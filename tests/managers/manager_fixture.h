@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "base/text.h"
 #include "support/agent_double.h"
 #include "support/outlet_recorder.h"
 #include "support/test_desktop.h"
@@ -19,8 +20,8 @@ class Recording_Window : public Main_Window {
 
     Desktop& desktop() override { return test_desktop; }
     Busy_Line& busy_line() override { return busy; }
-    void set_contacts_title(std::string title) override {
-        test_desktop.perform([this, title] { recorder_.note("contacts title: " + title); });
+    void set_section_title(Toolbar_Section section, std::string title) override {
+        recorder_.note(format("title of section %d: ", static_cast<int>(section)) + title);
     }
     void set_BT_Caption_White() override {
         test_desktop.perform([this] { recorder_.note("captions white"); });

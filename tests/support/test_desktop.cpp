@@ -7,6 +7,7 @@
 
 #include "base/interruptor.h"
 #include "base/text.h"
+#include "ui/dialog.h"
 #include "ui/worker.h"
 
 namespace velk {
@@ -75,6 +76,35 @@ void Test_Desktop::open_alert(const Alert& alert, std::function<void(int)> answe
         open_ = std::move(answered);
     else
         answered(answer);
+}
+
+void Test_Desktop::open_file_panel(const File_Panel& panel,
+                                   std::function<void(std::string)> chosen) {
+    panels_.push_back(panel);
+    note("panel: " + panel.title);
+    if (paths_.empty()) {
+        ADD_FAILURE() << "nobody expected the panel \"" << panel.title << '"';
+        return chosen("");
+    }
+    const std::string path = paths_.front();
+    paths_.pop_front();
+    chosen(path);
+}
+
+void Test_Desktop::show_dialog(Dialog& dialog, std::function<void()> closed) {
+    note("dialog: " + dialog.name());
+    dialog.on_close([&dialog, closed] {
+        const auto told = closed;
+        dialog.on_close(nullptr);
+        told();
+    });
+    if (people_.empty()) {
+        ADD_FAILURE() << "nobody expected the dialog " << dialog.name();
+        return dialog.close();
+    }
+    const auto person = people_.front();
+    people_.pop_front();
+    person(dialog);
 }
 
 bool Test_Desktop::sleep(double seconds) {

@@ -28,7 +28,14 @@ class Test_Desktop : public Desktop {
     /// workers use goes; the destructor does it too.
     void end_work();
 
-    // Alerts. One that was not scripted fails the test at once, and is answered by Escape.
+    // Boxes. One that was not scripted fails the test at once, and is answered by Escape.
+
+    /// The next file panel is answered by this path, or by Cancel when it is empty.
+    void choose_file(std::string path) { paths_.push_back(std::move(path)); }
+    /// All that were opened.
+    const std::vector<File_Panel>& file_panels() const { return panels_; }
+    /// The next dialog is used so as soon as it opens; it stays open unless this closes it.
+    void use_dialog(std::function<void(Dialog&)> person) { people_.push_back(std::move(person)); }
 
     /// The next alert gets this answer as soon as it opens.
     void answer_alert(int button) { answers_.push_back(button); }
@@ -42,8 +49,8 @@ class Test_Desktop : public Desktop {
     /// From here on a worker's sleeps take no time, and are noted in its own order: "sleep 0.6".
     void make_sleeps_instant() { sleeps_are_instant_ = true; }
 
-    /// Told of "beep", "alert: text", "sleep 0.6" and "terminate" as they come, on the test's
-    /// thread; an Outlet_Recorder's note, for instance.
+    /// Told of "beep", "alert: text", "panel: title", "dialog: name", "sleep 0.6" and "terminate"
+    /// as they come, on the test's thread; an Outlet_Recorder's note, for instance.
     std::function<void(const std::string&)> on_note;
     const std::vector<std::string>& notes() const { return notes_; }
     int beeps() const;
@@ -54,11 +61,14 @@ class Test_Desktop : public Desktop {
 
     bool sleep(double seconds) override;
     void open_alert(const Alert& alert, std::function<void(int)> answered) override;
+    void open_file_panel(const File_Panel& panel, std::function<void(std::string)> chosen) override;
     void beep() override { note("beep"); }
     bool end_editing() override { return editing_ends; }
     void terminate() override;
 
   protected:
+    void show_dialog(Dialog& dialog, std::function<void()> closed) override;
+    void input_changed() override {}
     void wake() override;
 
   private:
@@ -74,6 +84,9 @@ class Test_Desktop : public Desktop {
     std::deque<int> answers_;
     std::function<void(int)> open_;
     std::vector<Alert> alerts_;
+    std::deque<std::string> paths_;
+    std::vector<File_Panel> panels_;
+    std::deque<std::function<void(Dialog&)>> people_;
     std::vector<std::string> notes_;
     std::atomic<bool> sleeps_are_instant_ = false;
     bool terminated_ = false;

@@ -1,0 +1,26 @@
+#include "managers/table_source.h"
+
+#include <utility>
+
+namespace velk {
+
+Table_Source::Table_Source(Main_Window& window, std::string quiet_name)
+    : quiet(std::move(quiet_name)), window_(window) {
+    section.quiet = &quiet.m_LB_Quiet;
+}
+
+void Table_Source::set_commands(std::vector<Command> commands) {
+    for (Command& command : commands)
+        command.run = [this, run = std::move(command.run)] {
+            quiet.tell_reason("");
+            run();
+        };
+    section.commands = std::move(commands);
+}
+
+bool Table_Source::person_agrees(const std::string& question) {
+    return desktop().run_alert(
+               {.title = "Information", .text = question, .buttons = {"Yes", "No"}}) == 0;
+}
+
+}  // namespace velk

@@ -1,0 +1,84 @@
+// What the managers of all sections have in common.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "base/text.h"
+#include "managers/quiet_line.h"
+#include "ui/busy_line.h"
+#include "ui/desktop.h"
+#include "ui/guarded_worker.h"
+#include "ui/main_window.h"
+#include "ui/section.h"
+
+namespace velk {
+
+/// Base of the managers, which live as long as the main window. User-interface thread, but for the
+/// bodies of workers.
+class Table_Source {
+  public:
+    Table_Source(const Table_Source&) = delete;
+    Table_Source& operator=(const Table_Source&) = delete;
+
+    int selected_row = -1;  // index of the row last selected, -1 for none
+    Quiet_Line quiet;
+    Section section;  // what the window shows of all this
+
+  protected:
+    /// `quiet_name` is the object name of the section's quiet line.
+    Table_Source(Main_Window& window, std::string quiet_name);
+    ~Table_Source() = default;
+
+    /// The section's buttons. Each takes the last command's reason from the quiet line first.
+    void set_commands(std::vector<Command> commands);
+
+    Desktop& desktop() { return window_.desktop(); }
+
+    // --- workers only ---
+
+    void post(Desktop::Closure change) { desktop().post(std::move(change)); }
+    /// Asks with "Yes" and "No"; true for "Yes".
+    bool person_agrees(const std::string& question);
+    /// Says what is waited for, until it goes.
+    Busy_Note busy(std::string text) { return {desktop(), window_.busy_line(), std::move(text)}; }
+
+    /// Calls `delete_one` for every row that is selected now, in ascending order, whatever becomes
+    /// of each, then takes them all out of the table. Beeps, and gives false, when none is.
+    template <class Row, class Delete_One>
+    bool delete_selected(Row_List<Row>& rows, Table& table, Delete_One delete_one);
+
+    Main_Window& window_;
+};
+
+template <class Row, class Delete_One>
+bool Table_Source::delete_selected(Row_List<Row>& rows, Table& table, Delete_One delete_one) {
+    struct Chosen {
+        std::vector<int> indexes;
+        std::vector<Row> rows;
+        int reloads = 0;
+    };
+    const Chosen chosen = desktop().ask([&] {
+        Chosen now{table.selected_rows(), {}, table.reloads()};
+        for (const int index : now.indexes)
+            now.rows.push_back(rows[static_cast<std::size_t>(index)]);
+        return now;
+    });
+    if (chosen.rows.empty()) {
+        post([this] { desktop().beep(); });
+        return false;
+    }
+    Busy_Note note = busy("Deleting");
+    for (std::size_t i = 0; i < chosen.rows.size(); ++i) {
+        note.say(format("Deleting %zu of %zu", i + 1, chosen.rows.size()));
+        delete_one(chosen.rows[i]);
+    }
+    post([&rows, &table, indexes = chosen.indexes, reloads = chosen.reloads] {
+        // A load that came in between has put other rows in their places.
+        if (table.reloads() == reloads) rows.erase(indexes);
+        table.reload();
+    });
+    return true;
+}
+
+}  // namespace velk
