@@ -96,6 +96,8 @@ class Contacts_TableSource : public Table_Source {
     void delete_all(Held_Flag& running);
     void delete_records_all();
     void thread_do_read_xml(const std::string& path);
+    /// Adds the page's contacts to the phone; false when there is none.
+    bool import_rows(std::string_view rows);
     std::vector<Contacts_TableSource_Column> rows_on_the_screen();
     /// Adds on the phone, then in the table.
     void Contacts_Add_One(const std::string& name, const std::string& Tel_PhoneNumber);

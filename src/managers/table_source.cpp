@@ -18,9 +18,14 @@ void Table_Source::set_commands(std::vector<Command> commands) {
     section.commands = std::move(commands);
 }
 
+void Table_Source::ask_person(const std::string& question, std::function<void()> agreed) {
+    desktop().open_alert(yes_or_no(question), [agreed = std::move(agreed)](int button) {
+        if (button == yes) agreed();
+    });
+}
+
 bool Table_Source::person_agrees(const std::string& question) {
-    return desktop().run_alert(
-               {.title = "Information", .text = question, .buttons = {"Yes", "No"}}) == 0;
+    return desktop().run_alert(yes_or_no(question)) == yes;
 }
 
 }  // namespace velk

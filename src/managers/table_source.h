@@ -35,10 +35,13 @@ class Table_Source {
 
     Desktop& desktop() { return window_.desktop(); }
 
+    /// Asks with "Yes" and "No"; `agreed` runs behind "Yes".
+    void ask_person(const std::string& question, std::function<void()> agreed);
+
     // --- workers only ---
 
     void post(Desktop::Closure change) { desktop().post(std::move(change)); }
-    /// Asks with "Yes" and "No"; true for "Yes".
+    /// The same question; true for "Yes".
     bool person_agrees(const std::string& question);
     /// Says what is waited for, until it goes.
     Busy_Note busy(std::string text) { return {desktop(), window_.busy_line(), std::move(text)}; }

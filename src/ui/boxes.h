@@ -19,6 +19,12 @@ struct Alert {
     int last_button() const { return static_cast<int>(buttons.size()) - 1; }
 };
 
+/// The question that "No" leaves without effect.
+inline Alert yes_or_no(std::string question) {
+    return {.title = "Information", .text = std::move(question), .buttons = {"Yes", "No"}};
+}
+inline constexpr int yes = 0;
+
 /// A panel in which the person chooses one file or folder.
 struct File_Panel {
     enum class Kind { open, save };

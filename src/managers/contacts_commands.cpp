@@ -1,0 +1,191 @@
+// What a person can do to the contacts of the phone, one by one and all at once.
+#include "agent/sock_apk.h"
+#include "base/trace.h"
+#include "managers/contacts_tablesource.h"
+#include "ui/program_wide.h"
+
+namespace velk {
+
+namespace {
+
+/// "|" separates fields in requests, so no number may hold one.
+std::string number_without_separator(const Text_Field& typed) {
+    return replace_all(typed.text(), '|', '!');
+}
+
+/// A contact without a name goes by its number.
+std::string name_or(const Text_Field& typed, const std::string& number) {
+    return typed.text().empty() ? number : typed.text();
+}
+
+std::string result_line(bool good, const char* done, const char* failed, const std::string& name,
+                        const std::string& number) {
+    return format("%s '%s | %s'.", good ? done : failed, name.c_str(), number.c_str());
+}
+
+}  // namespace
+
+void Contacts_TableSource::post_status(std::string text) {
+    post([this, text = std::move(text)] { say(text); });
+}
+
+void Contacts_TableSource::show_message(const std::string& text, std::function<void()> answered) {
+    desktop().open_alert({.title = "Information",
+                          .text = text,
+                          .buttons = {"OK"},
+                          .style = Alert_Style::informational},
+                         [answered = std::move(answered)](int) { answered(); });
+}
+
+void Contacts_TableSource::refuse(const std::string& alert, const std::string& tips) {
+    show_message(alert, [this, tips] { say(tips); });
+}
+
+// --- add ---
+
+void Contacts_TableSource::OnBT_AddContacts() {
+    say("");
+    if (!add_dialog_) add_dialog_ = std::make_unique<velk::Contacts_Add>();
+    add_dialog_->m_Edit_Name.set_text("");
+    add_dialog_->m_Edit_PhoneNumber.set_text("");
+    desktop().open_dialog(*add_dialog_, [this] { add_what_was_typed(); });
+}
+
+void Contacts_TableSource::add_what_was_typed() {
+    const std::string number = number_without_separator(add_dialog_->m_Edit_PhoneNumber);
+    if (!add_dialog_->bOK) return;
+    // It asks for the name although the number is what is missing; it has always been so.
+    if (number.empty()) return refuse(msg_AddNothingContact, msg_AddNothingContact);
+    const std::string name = name_or(add_dialog_->m_Edit_Name, number);
+    run_command(desktop(), "add contact", [this, name, number] {
+        const Busy_Note note = busy("Adding a contact");
+        Contacts_Add_One(name, number);
+        post([this] {
+            refresh_button_contacts_title();
+            reload_after_a_change();
+        });
+    });
+}
+
+void Contacts_TableSource::Contacts_Add_One(const std::string& name,
+                                            const std::string& Tel_PhoneNumber) {
+    const std::string id = Contacts_Add_To_APK(name, Tel_PhoneNumber);
+    post([this, name, Tel_PhoneNumber, id] { Contacts_Add(name, Tel_PhoneNumber, id); });
+}
+
+std::string Contacts_TableSource::Contacts_Add_To_APK(const std::string& name,
+                                                      const std::string& Tel_PhoneNumber) {
+    const std::string reply = sock_apk().add_one_contact(name.c_str(), Tel_PhoneNumber.c_str());
+    std::string id = sock_apk::get_contact_id(reply);
+    post([] { g_phone_was_changed = 1; });
+    post_status(
+        result_line(!reply.empty(), "Successfully added", "Faild to add", name, Tel_PhoneNumber));
+    return id;
+}
+
+void Contacts_TableSource::Contacts_Add(const std::string& name, const std::string& Tel_PhoneNumber,
+                                        const std::string& Tel_ID) {
+    table_rows.push_back({std::to_string(table_rows.size() + 1), Tel_ID, name, Tel_PhoneNumber});
+    m_table.reload_appended();
+    m_table.scroll_to_last();
+}
+
+// --- modify ---
+
+void Contacts_TableSource::OnBT_ModifyContacts() {
+    if (selected_row == -1) return;
+    const auto& row = table_rows[static_cast<std::size_t>(selected_row)];
+    if (!edit_dialog_) edit_dialog_ = std::make_unique<velk::Contacts_Edit>();
+    edit_dialog_->window_title.set_text("Modify Contact......");
+    edit_dialog_->m_Edit_Name.set_text(row.col_name);
+    edit_dialog_->m_Edit_PhoneNumber.set_text(row.col_phone_number);
+    edit_dialog_->m_LB_ID.set_text(row.col_id);
+    desktop().open_dialog(*edit_dialog_, [this, id = row.col_id] { modify_as_typed(id); });
+}
+
+void Contacts_TableSource::modify_as_typed(const std::string& id) {
+    const std::string number = number_without_separator(edit_dialog_->m_Edit_PhoneNumber);
+    if (!edit_dialog_->bOK) return;
+    // Box and status line have always told two different things here.
+    if (number.empty()) return refuse(msg_AddNothingContact_Number, msg_AddNothingContact);
+    const std::string name = name_or(edit_dialog_->m_Edit_Name, number);
+    Contacts_Modify(name, number);
+    run_command(desktop(), "modify contact", [this, name, number, id] {
+        const Busy_Note note = busy("Modifying a contact");
+        Contacts_Modify_To_APK(name, number, id);
+    });
+}
+
+void Contacts_TableSource::Contacts_Modify(const std::string& name,
+                                           const std::string& Tel_PhoneNumber) {
+    const int selected = m_table.selected_row();
+    if (selected >= 0) {
+        auto& row = table_rows[static_cast<std::size_t>(selected)];
+        row.col_name = name;
+        row.col_phone_number = Tel_PhoneNumber;
+    }
+    m_table.reload_texts();
+    m_table.scroll_to_last();
+}
+
+bool Contacts_TableSource::Contacts_Modify_To_APK(const std::string& name,
+                                                  const std::string& Tel_PhoneNumber,
+                                                  const std::string& Tel_ID) {
+    const bool good =
+        sock_apk().modify_one_contact(name.c_str(), Tel_PhoneNumber.c_str(), Tel_ID.c_str());
+    post_status(
+        result_line(good, "Successfully modified", "Faild to modify", name, Tel_PhoneNumber));
+    return good;
+}
+
+// --- delete ---
+
+void Contacts_TableSource::OnBT_DeleteContacts() {
+    if (selected_row == -1) return;
+    ask_person("Are you sure you want to delete the selected item(s)?", [this] {
+        run_command(desktop(), "delete contacts", [this] {
+            const bool deleted = delete_selected(table_rows, m_table, [this](const auto& row) {
+                Contacts_Del_To_APK(row.col_id, row.col_name, row.col_phone_number);
+            });
+            if (deleted) post([this] { reload_after_a_change(); });
+        });
+    });
+}
+
+bool Contacts_TableSource::Contacts_Del_To_APK(const std::string& id, const std::string& Tel_Name,
+                                               const std::string& Tel_Number) {
+    const bool good = sock_apk().del_one_contact(id.c_str());
+    const std::string line =
+        result_line(good, "Successfully deleted", "Faild to delete", Tel_Name, Tel_Number);
+    post_status(line);
+    trace("%s\n", line.c_str());
+    post([this] {
+        g_phone_was_changed = 1;
+        refresh_button_contacts_title();
+    });
+    return good;
+}
+
+void Contacts_TableSource::ContactsDeleteAll() {
+    start_guarded(desktop(), g_can_click_contacts_delete_all, "delete contacts",
+                  [this](Held_Flag& running) {
+                      if (!person_agrees("Are your sure you want to delete all items?")) return;
+                      delete_records_all();
+                      running.give_back();
+                      post([this] { reload_after_a_change(); });
+                  });
+}
+
+void Contacts_TableSource::delete_records_all() {
+    const Busy_Note note = busy("Deleting all contacts");
+    sock_apk phone;
+    const bool good = phone.do_command(phone.getCommand_DelAllContacts());
+    post([this, good] {
+        g_phone_was_changed = 1;
+        say(good ? "Successfully deleted all contacts!" : "Faild to delete all contacts!");
+        table_rows.clear();
+        m_table.reload();
+    });
+}
+
+}  // namespace velk

@@ -1,0 +1,102 @@
+#include "managers/contacts_page.h"
+
+#include <algorithm>
+
+#include "base/text.h"
+
+namespace velk {
+
+namespace {
+
+constexpr std::string_view header_cells = "'ID','Name','Phone Number'";
+constexpr std::string_view end_of_record = "],";
+constexpr std::string_view end_of_array = "];";
+
+/// What a cell may hold: "|" separates fields in requests, "'" ends a text on the page.
+std::string cell(const std::string& text) {
+    return replace_all(replace_all(text, '|', '!'), '\'', ' ');
+}
+
+bool continues_a_character(char byte) {
+    return (static_cast<unsigned char>(byte) & 0xC0) == 0x80;
+}
+
+/// So many characters less at the text's start, or its end.
+std::string_view without_first(std::string_view text, int count) {
+    for (; count > 0 && !text.empty(); --count) {
+        text.remove_prefix(1);
+        while (!text.empty() && continues_a_character(text.front())) text.remove_prefix(1);
+    }
+    return text;
+}
+
+std::string_view without_last(std::string_view text, int count) {
+    for (; count > 0 && !text.empty(); --count) {
+        while (text.size() > 1 && continues_a_character(text.back())) text.remove_suffix(1);
+        text.remove_suffix(1);
+    }
+    return text;
+}
+
+/// The third field still has its closing quote, and that of a record in the middle its bracket.
+std::string number_of(std::string_view rest, bool is_last) {
+    const int too_much = is_last ? 1 : rest.find("''") != std::string_view::npos ? 3 : 2;
+    const std::string_view number = without_last(rest, too_much);
+    return number.empty() ? " " : replace_all(std::string(number), '|', '!');
+}
+
+}  // namespace
+
+std::string contacts_data(const std::vector<Page_Contact>& contacts) {
+    std::string data = "\n[" + std::string(header_cells) + "],";
+    std::size_t number = 0;
+    for (const Page_Contact& contact : contacts) {
+        if (number > 0) data += ',';
+        data += "\n['" + std::to_string(++number) + "','" + cell(contact.name) + "','" +
+                cell(contact.number) + "']";
+    }
+    return data;
+}
+
+bool is_ContactsHtml(std::string_view text) {
+    return contains_ignoring_case(text, header_cells);
+}
+
+std::string_view getContactsFromHtml(std::string_view text) {
+    const std::size_t end_of_header = text.find(end_of_record);
+    const std::size_t end = text.find(end_of_array);
+    if (end_of_header == std::string_view::npos || end == std::string_view::npos) return {};
+    const std::size_t start = end_of_header + end_of_record.size() + 1;  // behind the line feed
+    return start < end ? text.substr(start, end - start) : std::string_view();
+}
+
+Page_Contact get_one_contact_from_html(std::string_view record) {
+    std::string_view rest = without_first(record, 2);
+    const bool is_last = rest.find(end_of_record) == std::string_view::npos;
+    if (!is_last || rest.find(']') != std::string_view::npos) rest = without_last(rest, 2);
+    Page_Contact contact;
+    std::string* fields[] = {&contact.id, &contact.name};
+    std::size_t field = 0;
+    for (std::size_t comma; (comma = rest.find(',')) != std::string_view::npos; ++field) {
+        if (field < std::size(fields))
+            *fields[field] = std::string(without_last(rest.substr(0, comma), 1));
+        rest = without_first(rest.substr(comma + 1), 1);
+    }
+    contact.number = number_of(rest, is_last);
+    if (contact.name.empty()) contact.name = contact.number;
+    return contact;
+}
+
+bool Page_Records::next(Page_Contact& contact) {
+    const std::size_t end = rows_.find(end_of_record);
+    was_last_ = end == std::string_view::npos;
+    // What stands behind the last record and is no record is no contact either.
+    if (was_last_ && rows_.find(']') == std::string_view::npos) return false;
+    const std::size_t length =
+        was_last_ ? rows_.size() : std::min(end + end_of_record.size() + 1, rows_.size());
+    contact = get_one_contact_from_html(rows_.substr(0, length));
+    rows_.remove_prefix(length);
+    return true;
+}
+
+}  // namespace velk

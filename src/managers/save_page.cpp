@@ -1,0 +1,53 @@
+#include "managers/save_page.h"
+
+#include <filesystem>
+#include <system_error>
+
+#include "base/file.h"
+#include "base/text.h"
+#include "base/trace.h"
+#include "export/html_tools.h"
+
+namespace velk {
+
+namespace {
+
+bool would_replace_a_file(const std::string& path) {
+    std::error_code error;
+    const auto status = std::filesystem::status(path, error);
+    return std::filesystem::exists(status) && !std::filesystem::is_directory(status);
+}
+
+bool person_lets_replace(Desktop& desktop, const std::string& path) {
+    const std::string name = std::filesystem::path(path).filename().string();
+    return desktop.run_alert(yes_or_no("There is a file \"" + name + "\" already. Replace it?")) ==
+           yes;
+}
+
+}  // namespace
+
+std::string choose_save_path(Desktop& desktop, const std::string& title,
+                             const std::string& extension) {
+    for (;;) {
+        const std::string name =
+            desktop.run_file_panel({.kind = File_Panel::Kind::save, .title = title});
+        if (name.empty()) return "";
+        const std::string path = name + "." + extension;
+        if (!would_replace_a_file(path) || person_lets_replace(desktop, path)) return path;
+        if (desktop.closing()) return "";
+    }
+}
+
+std::string save_text(const std::string& path, const std::string& text) {
+    const std::string reason = write_whole_file(path, as_utf8(text));
+    trace("save :%d", reason.empty());
+    return reason;
+}
+
+std::string save_page(const std::string& path, const std::string& title, const std::string& data) {
+    const std::string page = as_utf8(HTML_Tools().get_html(title, data));
+    log_line("%s", page.c_str());
+    return save_text(path, page);
+}
+
+}  // namespace velk
