@@ -1,39 +1,11 @@
-#include "managers/contacts_tablesource.h"
-#include "managers/manager_fixture.h"
+#include "managers/contacts_fixture.h"
 
 namespace velk {
 namespace {
 
 using testing::ElementsAre;
 
-class Contacts_Load : public testing::Test {
-  protected:
-    Contacts_Load() {
-        recorder.watch(contacts.m_LB_Tips_Contacts);
-        recorder.watch(contacts.m_table);
-    }
-    ~Contacts_Load() override { window.test_desktop.end_work(); }
-
-    void wait_for_the_load() {
-        ASSERT_TRUE(window.test_desktop.pump_until([] { return g_can_click_contacts_load == 1; }));
-    }
-    void load(const std::vector<Agent_Double::Contact>& on_the_phone) {
-        agent.reply_to(14, Agent_Double::contacts(on_the_phone));
-        contacts.OnBT_Contacts_Refresh();
-        wait_for_the_load();
-    }
-    std::vector<std::string> column(int index) const {
-        std::vector<std::string> cells;
-        for (int row = 0; row < contacts.table_rows.count(); ++row)
-            cells.push_back(contacts.table_rows.cell(row, index));
-        return cells;
-    }
-
-    Agent_Double agent;
-    Outlet_Recorder recorder;
-    Recording_Window window{recorder};
-    Contacts_TableSource contacts{window};
-};
+class Contacts_Load : public Contacts_Test {};
 
 TEST_F(Contacts_Load, tells_its_progress_row_by_row_and_then_the_count) {
     g_int_count_contacts = 240;
@@ -47,7 +19,7 @@ TEST_F(Contacts_Load, tells_its_progress_row_by_row_and_then_the_count) {
                     "m_LB_Tips_Contacts: Loading No.1 'Ann'......", "m_table_Contacts: 2 rows",
                     "m_table_Contacts scrolled", "m_LB_Tips_Contacts: Loading No.2 'Ben'......",
                     "m_LB_Tips_Contacts: There are 2 contact(s) on your Mobile Phone.",
-                    "contacts title: Contacts(2)", "captions white"));
+                    "title 0: Contacts(2)", "captions white"));
     EXPECT_THAT(column(0), ElementsAre("1", "2"));
     EXPECT_THAT(column(1), ElementsAre("7", "8"));
     EXPECT_THAT(column(2), ElementsAre("Ann", "Ben"));
@@ -58,10 +30,10 @@ TEST_F(Contacts_Load, ends_with_an_empty_table_when_the_agent_answers_nothing) {
     load({{"7", "Ann", "555"}});
     agent.reply_to(14, "");
     contacts.OnBT_Contacts_Refresh();
-    wait_for_the_load();
+    finish();
     EXPECT_TRUE(contacts.table_rows.empty());
     EXPECT_EQ(contacts.m_LB_Tips_Contacts.text(), "There are 0 contact(s) on your Mobile Phone.");
-    EXPECT_EQ(recorder.lines_of("contacts title").back(), "contacts title: Contacts(0)");
+    EXPECT_EQ(recorder.lines_of("title").back(), "title 0: Contacts(0)");
 }
 
 TEST_F(Contacts_Load, ignores_a_refresh_while_it_loads) {
@@ -91,12 +63,16 @@ TEST_F(Contacts_Load, sorts_the_rows_themselves_and_leaves_their_numbers) {
     EXPECT_THAT(column(0), ElementsAre("1", "3", "2"));
 }
 
-TEST_F(Contacts_Load, writes_an_edited_cell_into_its_row_and_nowhere_else) {
-    load({{"7", "Ann", "555"}, {"8", "Ben", "666"}});
-    contacts.table_rows.set_cell(1, 2, "Bob");
-    EXPECT_EQ(contacts.table_rows[1].col_name, "Bob");
-    EXPECT_THAT(column(2), ElementsAre("Ann", "Bob"));
-    EXPECT_THAT(agent.codes(), ElementsAre("14"));
+TEST_F(Contacts_Load, says_quietly_what_is_wrong_with_the_list) {
+    const std::vector<Agent_Double::Contact> two = {{"7", "Ann", "555"}, {"8", "Ben", "666"}};
+    g_int_count_contacts = 3;
+    load(two);
+    EXPECT_EQ(quiet(), "The phone counts 3, but 2 came. Refresh tries again.");
+    g_phone_was_changed = 1;
+    load(two);
+    EXPECT_EQ(quiet(), "");
+    load(std::vector<Agent_Double::Contact>(400, {"7", std::string(120, 'n'), "555"}));
+    EXPECT_EQ(quiet(), "The phone's list of contacts is longer than its agent can send.");
 }
 
 }  // namespace

@@ -21,7 +21,7 @@ class Recording_Window : public Main_Window {
     Desktop& desktop() override { return test_desktop; }
     Busy_Line& busy_line() override { return busy; }
     void set_section_title(Toolbar_Section section, std::string title) override {
-        recorder_.note(format("title of section %d: ", static_cast<int>(section)) + title);
+        recorder_.note(format("title %d: ", static_cast<int>(section)) + title);
     }
     void set_BT_Caption_White() override {
         test_desktop.perform([this] { recorder_.note("captions white"); });
