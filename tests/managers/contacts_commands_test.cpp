@@ -163,7 +163,7 @@ TEST_F(Contacts_Commands, ends_a_load_whose_table_a_delete_all_has_emptied) {
     agent.reply_once_to(14, late);
     agent.reply_to(120, "ok");
     contacts.OnBT_Contacts_Refresh();
-    ASSERT_TRUE(agent.wait_for_requests(2));
+    ASSERT_TRUE(window.test_desktop.pump_until([&] { return agent.requests().size() == 2; }));
     window.test_desktop.answer_alert(yes);
     contacts.OnBT_Contacts_DelAll();
     finish();

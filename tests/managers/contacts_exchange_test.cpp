@@ -3,6 +3,7 @@
 #include "base/file.h"
 #include "managers/contacts_fixture.h"
 #include "support/temporary_folder.h"
+#include "ui/worker.h"
 
 namespace velk {
 namespace {

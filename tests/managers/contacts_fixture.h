@@ -2,7 +2,6 @@
 
 #include "managers/contacts_tablesource.h"
 #include "managers/manager_fixture.h"
-#include "ui/worker.h"
 
 namespace velk {
 
@@ -18,11 +17,7 @@ class Contacts_Test : public testing::Test {
     }
     ~Contacts_Test() override { window.test_desktop.end_work(); }
 
-    /// Until no worker runs and nothing is posted.
-    void finish() {
-        ASSERT_TRUE(window.test_desktop.pump_until([] { return Worker::running() == 0; }));
-        window.test_desktop.pump();
-    }
+    void finish() { window.test_desktop.finish_work(); }
     void load(const std::vector<Agent_Double::Contact>& on_the_phone) {
         agent.reply_to(14, Agent_Double::contacts(on_the_phone));
         contacts.OnBT_Contacts_Refresh();

@@ -39,7 +39,7 @@ TEST_F(Contacts_Load, ends_with_an_empty_table_when_the_agent_answers_nothing) {
 TEST_F(Contacts_Load, ignores_a_refresh_while_it_loads) {
     agent.be_silent();
     contacts.OnBT_Contacts_Refresh();
-    ASSERT_TRUE(agent.wait_for_requests(1));
+    ASSERT_TRUE(window.test_desktop.pump_until([&] { return agent.requests().size() == 1; }));
     window.test_desktop.pump();
     recorder.clear();
     contacts.OnBT_Contacts_Refresh();

@@ -57,6 +57,13 @@ bool Test_Desktop::pump_until(const std::function<bool()>& condition) {
     return true;
 }
 
+void Test_Desktop::finish_work() {
+    do {
+        if (!pump_until([] { return Worker::running() == 0; })) return;
+        pump();
+    } while (Worker::running() > 0);
+}
+
 void Test_Desktop::press(int button) {
     ASSERT_TRUE(alert_is_open());
     std::exchange(open_, nullptr)(button);

@@ -24,6 +24,8 @@ class Test_Desktop : public Desktop {
     /// Runs what is posted until the condition holds. Fails the test (and gives false) when that
     /// takes longer than any machine needs.
     bool pump_until(const std::function<bool()>& condition);
+    /// Runs what is posted until no worker is left either.
+    void finish_work();
     /// Closes the gate and ends all workers. Call it before what the
     /// workers use goes; the destructor does it too.
     void end_work();
