@@ -1,45 +1,14 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <set>
-
 #include "demo_phone/agent_reply.h"
 #include "test_phone.h"
 
 namespace velk {
 namespace {
 
+using namespace std::string_view_literals;
 using testing::ElementsAre;
-
-/// What a computer makes of a value reply: byte 9 counts, the value begins at byte 10.
-std::string value_in(const std::string& reply) {
-    return reply.size() < 10 ? "" : reply.substr(10, static_cast<unsigned char>(reply[9]) + 1U);
-}
-
-TEST(Agent_Replies, every_value_of_the_summary_is_read_back) {
-    Test_Phone test;
-    test.phone.store.add_contact("Ann", "1");
-    test.phone.store.install({"A", "a.b", "1", "", 1});
-    const struct {
-        int code;
-        std::string value;
-    } cases[] = {{81, "2013265920"}, {79, "2040109465"}, {75, "4.4.2"}, {77, "Demo Phone"},
-                 {65, "1"},          {66, "0"},          {67, "1"},     {68, "0"},
-                 {70, "0"},          {72, "0"},          {74, "0"},     {90, "1"}};
-    for (const auto& [code, value] : cases) EXPECT_EQ(value_in(test.ask(code)), value) << code;
-    EXPECT_NE(value_in(test.ask(114)), "");
-    test.phone.battery = 55;
-    EXPECT_EQ(test.ask(38).back(), 55);
-}
-
-TEST(Agent_Replies, storage_fills_as_files_arrive) {
-    Test_Phone test;
-    const long before = std::stol(value_in(test.ask(83)));
-    test.storage->write("/sdcard/music/a.wav", std::string(1000, 'x'));
-    EXPECT_EQ(std::stol(value_in(test.ask(83))), before - 1000);
-    test.phone.behaviour.storage_full = true;
-    EXPECT_EQ(value_in(test.ask(83)), "0");
-}
 
 TEST(Agent_Replies, records_keep_the_order_of_their_fields) {
     Test_Phone test;
@@ -85,20 +54,49 @@ TEST(Agent_Replies, messages_come_in_packets_that_their_length_fits) {
     EXPECT_EQ(read_messages(test.ask(47), packets).size(), 35U);
 }
 
-TEST(Agent_Replies, empty_lists_are_bare_headers) {
+TEST(Agent_Replies, empty_lists_are_bare_headers_and_only_the_contacts_close_after_them) {
     Test_Phone test;
-    for (const int code : {14, 47, 115, 116, 117, 118, 119})
-        EXPECT_EQ(test.ask(code), raw("\0") + static_cast<char>(code) + raw("\0\0\0\1\0"));
+    for (const char code : "\x0E/stuvw"sv) {
+        const Agent_Answer answer = answer_request(test.phone, {&code, 1});
+        EXPECT_EQ(answer.bytes, raw("\0") + code + raw("\0\0\0\1\0"));
+        EXPECT_EQ(answer.closes_after, code == '\x0E');
+    }
 }
 
-TEST(Agent_Replies, only_readers_that_know_their_end_are_left_to_close) {
-    Test_Phone test;
-    for (const int code : {47, 115, 116, 117, 118, 119})
-        EXPECT_FALSE(
-            answer_request(test.phone, std::string(1, static_cast<char>(code))).closes_after);
-    for (const int code : {14, 38, 81, 90})
-        EXPECT_TRUE(
-            answer_request(test.phone, std::string(1, static_cast<char>(code))).closes_after);
+/// What a service sends: the sizes of the pieces, and whether it ends.
+struct Kept_Outlet : Phone_Outlet {
+    std::string all;
+    std::vector<std::size_t> pieces;
+    bool finished = false;
+
+    void send(std::string bytes, std::chrono::milliseconds) override {
+        all += bytes;
+        pieces.push_back(bytes.size());
+    }
+    void finish() override { finished = true; }
+};
+
+TEST(Agent_Replies, the_bad_agent_answers_as_it_is_told) {
+    const struct {
+        std::string play;
+        std::vector<std::size_t> pieces;
+        bool finished;
+    } cases[] = {{"normal", {285}, false},      {"silent", {}, false},
+                 {"close-early", {}, true},     {"cut:5", {5}, true},
+                 {"cut:0", {0}, true},          {"split:150", {150, 135}, false},
+                 {"split:999:1", {285}, false}, {"damaged", {285}, true}};
+    for (const auto& [words, pieces, finished] : cases) {
+        Test_Phone test;
+        const std::string name(263, 'n');
+        test.phone.store.add_media({Media_Kind::book, 0, "/" + name, "", "", 0, 40, false});
+        const std::string whole = test.ask(119);
+        ASSERT_TRUE(play(test.phone.behaviour, words)) << words;
+        Kept_Outlet outlet;
+        Agent_Link(test.phone).received("w", outlet);
+        EXPECT_EQ(outlet.pieces, pieces) << words;
+        EXPECT_EQ(outlet.finished, finished) << words;
+        EXPECT_EQ(whole.starts_with(outlet.all), words != "damaged") << words;
+    }
 }
 
 }  // namespace

@@ -29,22 +29,6 @@ struct Test_Phone {
     std::string ask(int code) { return ask(std::string(1, static_cast<char>(code))); }
 };
 
-/// What a service sends, kept.
-struct Kept_Outlet : Phone_Outlet {
-    std::vector<std::string> pieces;
-    bool finished = false;
-
-    void send(std::string bytes, std::chrono::milliseconds) override {
-        pieces.push_back(std::move(bytes));
-    }
-    void finish() override { finished = true; }
-    std::string all() const {
-        std::string out;
-        for (const std::string& piece : pieces) out += piece;
-        return out;
-    }
-};
-
 /// Reads fields one after the other; a reply that is shorter than it says fails the test.
 struct Field_Reader {
     std::string bytes;

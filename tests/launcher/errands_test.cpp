@@ -20,8 +20,10 @@ struct Errand {
     Words calls;
 };
 
-const std::string list = "List of devices attached\nS1\tdevice\n\n";
-const std::string older_list = "List of devices attached \nS1\tdevice\n\n";
+const std::string list =
+    "List of devices attached\nS1\tno permissions (udev rules wrong?); see [tools]\nS2\tattached\n";
+const std::string older_list =
+    "List of devices attached \nS1\tno permissions (udev rules wrong?)\nS2\tattached\n";
 const std::string gone = "error: device 'S1' not found\n";
 
 const Errand errands[] = {
@@ -29,6 +31,7 @@ const Errand errands[] = {
      {{"devices", {list, "* started\n", 0, leaves_a_server}}},
      {older_list, "* started\n", 0},
      {"-P 5038 devices"}},
+    {{"devices"}, {{"devices", {older_list}}}, {older_list, "", 0}, {"devices"}},
     {{"-s", "push", "pull", "/a b", "/tmp/x"},
      {{"pull", {"1 file pulled.\n"}}},
      {"", "1 file pulled.\n", 0},

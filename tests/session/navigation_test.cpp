@@ -12,8 +12,7 @@ class Navigation : public Session {
         void (MainDocument::*press)();
         const char* shows;
     };
-    static constexpr Section_Button my_android{&MainDocument::OnBT_MyAndroid, "nothing"};
-    static constexpr Section_Button four[] = {my_android,
+    static constexpr Section_Button four[] = {{&MainDocument::OnBT_MyAndroid, "nothing"},
                                               {&MainDocument::OnBT_Contacts, "View_Contacts"},
                                               {&MainDocument::OnBT_SMS, "View_SMS"},
                                               {&MainDocument::OnBT_App, "View_App"}};
@@ -22,42 +21,33 @@ class Navigation : public Session {
                                                {&MainDocument::OnBT_Video, "View_Video"},
                                                {&MainDocument::OnBT_Book, "View_Book"}};
 
-    void show_the_null_view() { document.displayViewController(DEFINE_NULL); }
-
-    /// Presses the button with the empty view shown before; true when it switched.
-    bool switches(const Section_Button& button) {
-        show_the_null_view();
-        (document.*button.press)();
-        const std::string view = view_in_the_box();
-        EXPECT_TRUE(view == button.shows || view == "View_NULL") << view;
-        return view == button.shows;
-    }
-
-    void wait_for_the_load() {
-        ASSERT_TRUE(desktop.pump_until([] { return g_can_click_contacts_load == 1; }));
+    /// Presses each button with the empty view shown before; it is left, or not.
+    template <std::size_t count>
+    void expect(bool open, const Section_Button (&buttons)[count]) {
+        for (const Section_Button& button : buttons) {
+            document.displayViewController(DEFINE_NULL);
+            (document.*button.press)();
+            EXPECT_EQ(view_in_the_box(), open ? button.shows : "View_NULL") << button.shows;
+        }
     }
 };
 
-TEST_F(Navigation, opens_no_section_before_a_connection) {
-    for (const Section_Button& button : four) EXPECT_FALSE(switches(button)) << button.shows;
-    for (const Section_Button& button : media) EXPECT_FALSE(switches(button)) << button.shows;
-}
-
-TEST_F(Navigation, keeps_a_person_in_a_section_that_works_but_for_the_media_sections) {
+TEST_F(Navigation, opens_a_section_when_connected_and_keeps_a_person_where_work_is_done) {
+    expect(false, four);
+    expect(false, media);
     g_connected_adb = 1;
     g_table_contacts_need_refresh = 0;
-    for (const Section_Button& button : four) EXPECT_TRUE(switches(button)) << button.shows;
-    for (const Section_Button& button : media) EXPECT_TRUE(switches(button)) << button.shows;
-
+    expect(true, four);
+    expect(true, media);
     for (Flag* working :
          {&g_can_click_contacts_load, &g_can_click_contacts_import, &g_can_click_sms_load}) {
         *working = 0;
-        for (const Section_Button& button : four) EXPECT_FALSE(switches(button)) << button.shows;
-        for (const Section_Button& button : media) EXPECT_TRUE(switches(button)) << button.shows;
+        expect(false, four);
+        expect(true, media);
         *working = 1;
     }
     g_can_click_refresh = 0;
-    for (const Section_Button& button : media) EXPECT_FALSE(switches(button)) << button.shows;
+    expect(false, media);
     g_can_click_refresh = 1;
 }
 
@@ -77,7 +67,7 @@ TEST_F(Navigation, reloads_the_contacts_once_after_a_refresh) {
     refresh();
     for (const int visit : {1, 2}) {
         document.OnBT_Contacts();
-        wait_for_the_load();
+        ASSERT_TRUE(desktop.pump_until([] { return g_can_click_contacts_load == 1; }));
         EXPECT_EQ(g_contacts_tablesource->table_rows.size(), 1U) << visit;
     }
     const std::vector<std::string> codes = agent.codes();
@@ -85,7 +75,7 @@ TEST_F(Navigation, reloads_the_contacts_once_after_a_refresh) {
 }
 
 TEST_F(Navigation, changes_nothing_but_beeps_while_an_editor_keeps_the_focus) {
-    show_the_null_view();
+    document.displayViewController(DEFINE_NULL);
     desktop.editing_ends = false;
     document.displayViewController(DEFINE_VIEW_SettingPhoneUSB);
     EXPECT_EQ(desktop.beeps(), 1);
@@ -114,25 +104,16 @@ TEST_F(Navigation, recolours_the_captions_in_their_order_and_only_when_they_are_
 }
 
 TEST_F(Navigation, tells_a_message_with_one_button_and_lets_a_worker_wait_for_it) {
-    desktop.answer_alert(0);
-    document.show_message("from the window");
     desktop.hold_alert();
-    bool answered = false;
-    Worker::start("asks", [this, &answered] {
-        document.show_message("from a worker");
-        desktop.post([&answered] { answered = true; });
-    });
+    Worker::start("asks", [this] { document.show_message("from a worker"); });
     ASSERT_TRUE(desktop.pump_until([this] { return desktop.alert_is_open(); }));
-    desktop.pump();
-    EXPECT_FALSE(answered);
+    EXPECT_EQ(Worker::running(), 1);
+    const Alert& alert = desktop.alerts().front();
+    EXPECT_EQ(alert.title, "Information");
+    EXPECT_EQ(alert.buttons, std::vector<std::string>{"OK"});
+    EXPECT_EQ(alert.style, Alert_Style::warning);
     desktop.press(0);
-    ASSERT_TRUE(desktop.pump_until([&answered] { return answered; }));
-    for (const Alert& alert : desktop.alerts()) {
-        EXPECT_EQ(alert.title, "Information");
-        EXPECT_EQ(alert.buttons, std::vector<std::string>{"OK"});
-        EXPECT_EQ(alert.style, Alert_Style::warning);
-    }
-    EXPECT_EQ(desktop.alerts().size(), 2U);
+    EXPECT_TRUE(desktop.pump_until([] { return Worker::running() == 0; }));
 }
 
 }  // namespace

@@ -20,11 +20,14 @@ class Start_View : public Session {
         }
         return lit;
     }
-    bool points_are_shown() const {
-        return !view.m_Image_loading_1.hidden() && !view.m_LB_ConnectingYourPhone.hidden() &&
-               view.m_Image_USB_Line.hidden() && view.m_LB_Msg_ConnectPhone.hidden();
+    /// The points or the cable, with the words that belong to them; nothing of the other.
+    bool shows_points(bool points) const {
+        return view.m_Image_loading_1.hidden() != points &&
+               view.m_LB_ConnectingYourPhone.hidden() != points &&
+               view.m_Image_USB_Line.hidden() == points &&
+               view.m_LB_Msg_ConnectPhone.hidden() == points;
     }
-    bool ended() const { return g_can_click_loading_animation == 1; }
+    static bool ended() { return g_can_click_loading_animation == 1; }
 };
 
 TEST_F(Start_View, freezes_with_its_last_point_lit_after_99_steps_and_starts_again) {
@@ -34,30 +37,20 @@ TEST_F(Start_View, freezes_with_its_last_point_lit_after_99_steps_and_starts_aga
     });
     view.Start_Loading_Animation();
     view.Start_Loading_Animation();  // a second start finds it running
-    ASSERT_TRUE(desktop.pump_until([this] { return ended(); }));
+    ASSERT_TRUE(desktop.pump_until(ended));
 
     ASSERT_EQ(lit.size(), 100U);  // all unlit, then 99 steps
     EXPECT_EQ(lit[0], 0);
     for (std::size_t step = 1; step < lit.size(); ++step)
         EXPECT_EQ(lit[step], static_cast<int>((step - 1) % 4) + 1) << step;
-    EXPECT_TRUE(points_are_shown());
+    EXPECT_TRUE(shows_points(true));
     EXPECT_EQ(std::count(desktop.notes().begin(), desktop.notes().end(), "sleep 0.3"), 99);
     EXPECT_EQ(std::count(desktop.notes().begin(), desktop.notes().end(), "sleep 0.6"), 1);
 
     view.Start_Loading_Animation();
     view.Stop_Loading_Animation();
-    ASSERT_TRUE(desktop.pump_until([this] { return ended(); }));
-    EXPECT_FALSE(points_are_shown());
-}
-
-TEST_F(Start_View, returns_to_the_cable_when_it_is_stopped_at_once) {
-    view.Start_Loading_Animation();
-    view.Stop_Loading_Animation();
-    ASSERT_TRUE(desktop.pump_until([this] { return ended(); }));
-    EXPECT_FALSE(view.m_Image_USB_Line.hidden());
-    EXPECT_FALSE(view.m_LB_Msg_ConnectPhone.hidden());
-    EXPECT_TRUE(view.m_Image_loading_1.hidden());
-    EXPECT_TRUE(view.m_LB_ConnectingYourPhone.hidden());
+    ASSERT_TRUE(desktop.pump_until(ended));
+    EXPECT_TRUE(shows_points(false)) << "the cable does not return";
     EXPECT_EQ(lit_point(), 0);
 }
 

@@ -2,24 +2,24 @@
 // badly, and remembers what it was asked.
 #pragma once
 
+#include <algorithm>
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace velk {
 
 class Fake_Adb {
   public:
-    enum class Behaviour : char {
-        ends = 'e',
-        crashes = 'c',         // ends by SIGABRT
-        hangs = 'h',           // never ends by itself
-        leaves_a_server = 's'  // ends; a child of its own keeps the streams open
+    enum class Behaviour {
+        ends,
+        crashes,         // ends by SIGABRT
+        hangs,           // never ends by itself
+        leaves_a_server  // ends; a child of its own keeps the streams open
     };
 
     struct Answer {
@@ -53,10 +53,12 @@ class Fake_Adb {
         // Renamed into place: a tool that runs meanwhile sees the old answer or the new one.
         const std::filesystem::path written = directory_ / "written";
         std::ofstream(written, std::ios::binary)
-            << answer.status << ' ' << answer.repeat << ' ' << static_cast<char>(answer.behaviour)
-            << ' ' << answer.errors.size() << '\n'
-            << answer.errors << answer.output;
-        std::filesystem::rename(written, answer_file(directory_, words));
+            << "status=" << answer.status << " repeat=" << answer.repeat
+            << " behaviour=" << static_cast<int>(answer.behaviour)
+            << " errors=" << quoted(answer.errors) << " output=" << quoted(answer.output);
+        std::string name = "answer " + words;
+        std::replace(name.begin(), name.end(), '/', '%');
+        std::filesystem::rename(written, directory_ / name);
     }
     void answer(const std::string& words, const char* output) const {
         answer(words, Answer{.output = output});
@@ -68,7 +70,7 @@ class Fake_Adb {
         bool at_start = true;
         for (std::string& word : fields("calls")) {
             if (at_start) vectors.emplace_back();
-            at_start = word == end_of_a_call;
+            at_start = word == "\n";
             if (!at_start) vectors.back().push_back(std::move(word));
         }
         return vectors;
@@ -94,18 +96,14 @@ class Fake_Adb {
         return false;
     }
 
-    void forget_calls() const { std::filesystem::remove(directory_ / "calls"); }
-
-    // Shared with the tool's program: where an answer stands, and how a call ends in the record.
-    static std::filesystem::path answer_file(const std::filesystem::path& directory,
-                                             std::string words) {
-        for (char& byte : words)
-            if (byte == '/') byte = '%';
-        return directory / ("answer " + words);
-    }
-    static constexpr std::string_view end_of_a_call = "\n";
-
   private:
+    /// As one word of the shell that reads it.
+    static std::string quoted(const std::string& text) {
+        std::string word = "'";
+        for (const char byte : text) word += byte == '\'' ? "'\\''" : std::string(1, byte);
+        return word + "'";
+    }
+
     /// The texts of a file in which each ends in a NUL.
     std::vector<std::string> fields(const char* name) const {
         std::ifstream file(directory_ / name, std::ios::binary);

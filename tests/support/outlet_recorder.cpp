@@ -36,10 +36,6 @@ void Outlet_Recorder::watch(Level_Indicator& gauge) {
     watch(gauge, [&gauge] { return ": " + std::to_string(gauge.value()); });
 }
 
-void Outlet_Recorder::watch(Image& image) {
-    watch(image, [&image] { return ": " + image.picture(); });
-}
-
 void Outlet_Recorder::watch(Text_Field& field) {
     watch(field, [&field] { return ": " + field.text(); });
 }

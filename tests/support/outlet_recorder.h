@@ -12,7 +12,7 @@ namespace velk {
 
 /// Lives longer than the outlets' last change. User-interface thread.
 ///
-///   m_LB_ps: Loading......             a text, a title, a value, a picture
+///   m_LB_ps: Loading......             a text, a title, a value
 ///   m_LB_Size_PhoneTotal tool tip: 1,000
 ///   m_BT_Refresh hidden, m_BT_Refresh shown
 ///   m_BT_Contacts colour: 255 255 255, m_BT_Contacts centred
@@ -22,7 +22,6 @@ class Outlet_Recorder {
     void watch(Label& label);
     void watch(Button& button);
     void watch(Level_Indicator& gauge);
-    void watch(Image& image);
     void watch(Text_Field& field);
     void watch(Table& table);
     /// Any other outlet: `describe` gives what is written behind its name.

@@ -2,12 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <array>
-#include <clocale>
-#include <cstring>
-
-#include "support/outlet_recorder.h"
 
 namespace velk {
 namespace {
@@ -53,16 +48,6 @@ TEST(Table, ColumnsCompareAsWhatTheyAre) {
     EXPECT_EQ(sorted({"1", "3", "2"}, Comparison::number, false), (Texts{"3", "2", "1"}));
 }
 
-TEST(Table, NamesCompareByTheLocalesCollation) {
-    std::setlocale(LC_COLLATE, "");
-    Texts names{"Zoe", "Émile", "anna", "Bob", "", "Ωμέγα"};
-    const Texts shown = sorted(names, Comparison::text);
-    std::stable_sort(names.begin(), names.end(), [](const std::string& a, const std::string& b) {
-        return std::strcoll(a.c_str(), b.c_str()) < 0;
-    });
-    EXPECT_EQ(shown, names);
-}
-
 TEST(Table, EqualCellsKeepTheirOrderBothWays) {
     const Texts cells{"1 b", "1 a", "0", "1 c"};
     EXPECT_EQ(sorted(cells, Comparison::number), (Texts{"0", "1 b", "1 a", "1 c"}));
@@ -75,28 +60,16 @@ TEST(Table, AClickSortsTheRowsThemselvesAndLaterRowsStayAtTheEnd) {
     rows.push_back({"2", "a", "1.00 KB"});
     Table table("m_table", rows);
     table.select({0}, 0);
-    Outlet_Recorder recorder;
-    recorder.watch(table);
     table.sort(1, true);
     EXPECT_EQ(table.selected_row(), -1);
+    EXPECT_EQ(table.reloads(), 1);
     rows.push_back({"3", "A", "0.00 B"});
     table.reload_appended();
-    table.scroll_to_last();
-    EXPECT_EQ(cells_of(rows, 1), (Texts{"a", "b", "A"}));
+    EXPECT_EQ(table.reloads(), 1);
     EXPECT_EQ(cells_of(rows, 0), (Texts{"2", "1", "3"}));
-    EXPECT_EQ(recorder.lines(),
-              (Texts{"m_table reloaded: 2 rows", "m_table: 3 rows", "m_table scrolled"}));
-}
-
-TEST(Table, AnEditedCellGoesIntoItsFieldAndNowhereElse) {
-    Row_List<Song> rows;
-    rows.push_back({"1", "a", "1.00 KB"});
-    rows.push_back({"2", "b", "2.00 KB"});
     rows.set_cell(1, 1, "B");
-    EXPECT_EQ(rows[1].col_name, "B");
-    EXPECT_EQ(cells_of(rows, 0), (Texts{"1", "2"}));
-    EXPECT_EQ(rows[0].col_name, "a");
-    EXPECT_EQ(cells_of(rows, 2), (Texts{"1.00 KB", "2.00 KB"}));
+    EXPECT_EQ(cells_of(rows, 1), (Texts{"a", "B", "A"}));
+    EXPECT_EQ(cells_of(rows, 2), (Texts{"1.00 KB", "2.00 KB", "0.00 B"}));
 }
 
 TEST(Table, TheSelectionTellsOnlyOfChanges) {
