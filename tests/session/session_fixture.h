@@ -67,25 +67,17 @@ class Session : public testing::Test {
         desktop.on_note = [this](const std::string& note) {
             if (!note.starts_with("sleep")) recorder.note(note);
         };
-        for (Label* label :
-             {&document.m_LB_ps, &document.m_LB_Connected, &document.m_LB_USBConnect,
-              &document.m_LB_SerialNumber, &document.m_LB_MobileName, &document.m_LB_AndroidVersion,
-              &document.m_LB_Battery, &document.m_LB_Size_PhoneTotal,
-              &document.m_LB_Size_StorageTotal, &document.m_LB_MobileNameBig,
-              &document.m_LB_Size_PhoneTotalFree, &document.m_LB_Size_StorageTotalFree,
-              &document.m_LB_Size_Phone_BK, &document.m_LB_Size_Storage_BK,
-              &document.m_LB_Free_Phone_Caption, &document.m_LB_Free_Storage_Caption})
-            recorder.watch(*label);
-        for (Button* button :
-             {&document.m_BT_MyAndroid, &document.m_BT_Contacts, &document.m_BT_SMS,
-              &document.m_BT_Apps, &document.m_BT_Music, &document.m_BT_Photo, &document.m_BT_Video,
-              &document.m_BT_Book, &document.m_BT_Refresh, &document.m_BT_Bottom_Apps,
-              &document.m_BT_Bottom_Contacts, &document.m_BT_Bottom_SMS})
-            recorder.watch(*button);
-        for (Level_Indicator* gauge :
-             {&document.m_Progress_Battery, &document.m_LevelIndicator_Size_Phone,
-              &document.m_LevelIndicator_Size_Storage})
-            recorder.watch(*gauge);
+        MainDocument& d = document;
+        const auto watch = [this](auto&... outlets) { (recorder.watch(outlets), ...); };
+        watch(d.m_LB_ps, d.m_LB_Connected, d.m_LB_USBConnect, d.m_LB_SerialNumber,
+              d.m_LB_MobileName, d.m_LB_AndroidVersion, d.m_LB_Battery, d.m_LB_Size_PhoneTotal,
+              d.m_LB_Size_StorageTotal, d.m_LB_MobileNameBig, d.m_LB_Size_PhoneTotalFree,
+              d.m_LB_Size_StorageTotalFree, d.m_LB_Size_Phone_BK, d.m_LB_Size_Storage_BK,
+              d.m_LB_Free_Phone_Caption, d.m_LB_Free_Storage_Caption, d.m_BT_MyAndroid,
+              d.m_BT_Contacts, d.m_BT_SMS, d.m_BT_Apps, d.m_BT_Music, d.m_BT_Photo, d.m_BT_Video,
+              d.m_BT_Book, d.m_BT_Refresh, d.m_BT_Bottom_Apps, d.m_BT_Bottom_Contacts,
+              d.m_BT_Bottom_SMS, d.m_Progress_Battery, d.m_LevelIndicator_Size_Phone,
+              d.m_LevelIndicator_Size_Storage);
         recorder.watch(document.m_Control_Box1, [this] { return ": " + view_in_the_box(); });
     }
 };

@@ -24,10 +24,9 @@ server_is_gone() {
     ! (exec 3<>"/dev/tcp/127.0.0.1/$port") 2>/dev/null
 }
 
-told() { [ -s "$folder/told" ]; }
 wait_until_told() {
     for _ in {1..600}; do
-        if told; then return 0; fi
+        [ -s "$folder/told" ] && return
         sleep 0.05
     done
     return 1

@@ -55,17 +55,13 @@ TEST_F(Workers, OneThatDoesNotEndIsToldAndNotWaitedFor) {
 }
 
 TEST_F(Workers, AWorkerHasEndedOnlyWhenWhatItOwnsHasGone) {
-    struct Slow_To_Go {
-        explicit Slow_To_Go(std::atomic<bool>& flag) : gone(flag) {}
-        ~Slow_To_Go() {
-            for (int i = 0; i < 1000; ++i) std::this_thread::yield();
-            gone = true;
-        }
-        std::atomic<bool>& gone;
-    };
     for (int i = 0; i < 20; ++i) {
         std::atomic<bool> gone = false;
-        Worker::start("owner", [owned = std::make_shared<Slow_To_Go>(gone)] {});
+        const auto slow_to_go = [&gone](void*) {
+            for (int turn = 0; turn < 1000; ++turn) std::this_thread::yield();
+            gone = true;
+        };
+        Worker::start("owner", [owned = std::shared_ptr<void>(nullptr, slow_to_go)] {});
         EXPECT_TRUE(Worker::stop_all(longer_than_needed));
         EXPECT_TRUE(gone);
         while (!gone) std::this_thread::yield();
