@@ -1,48 +1,7 @@
-// From a plugged phone to its contacts, with nothing between that is not real but the phone.
-#include <gmock/gmock.h>
-
-#include "demo_phone/adb_tools.h"
-#include "managers/contacts_tablesource.h"
-#include "session/main_document.h"
-#include "support/test_desktop.h"
-#include "ui/program_wide.h"
-#include "ui/worker.h"
+#include "end_to_end/demo_session.h"
 
 namespace velk {
 namespace {
-
-class On_The_Demo_Phone : public Adb_Test {
-  protected:
-    void SetUp() override {
-        Adb_Test::SetUp();
-        desktop.make_sleeps_instant();
-        document.windowControllerDidLoadNib();
-    }
-    void TearDown() override {
-        desktop.end_work();
-        Adb_Test::TearDown();
-    }
-
-    void refresh() {
-        document.OnBT_Refresh();
-        ASSERT_TRUE(desktop.pump_until([] { return Worker::running() == 0; }));
-        desktop.pump();
-    }
-    void load_contacts() {
-        document.OnBT_Contacts();
-        ASSERT_TRUE(desktop.pump_until([] { return g_can_click_contacts_load == 1; }));
-    }
-    std::string view() const {
-        const MainViewController* shown = document.m_Control_Box1.view();
-        return shown == nullptr ? "nothing" : shown->name();
-    }
-    const Row_List<Contacts_TableSource_Column>& rows() const {
-        return g_contacts_tablesource->table_rows;
-    }
-
-    Test_Desktop desktop;
-    MainDocument document{desktop, PROGRAM_FOLDER};
-};
 
 TEST_F(On_The_Demo_Phone, an_attempt_ends_with_the_summary_and_the_contacts) {
     announce_phone({"--model", "Moss", "--contacts", "300", "--packet", "4096"});
