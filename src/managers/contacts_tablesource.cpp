@@ -2,7 +2,6 @@
 
 #include <vector>
 
-#include "agent/sock_apk.h"
 #include "base/text.h"
 #include "managers/filling.h"
 #include "ui/program_wide.h"
@@ -15,33 +14,15 @@ constexpr const char* command_list_contacts = "14";
 constexpr const char* list_is_too_long =
     "The phone's list of contacts is longer than its agent can send.";
 
-/// A record's ID and name run on into the bytes behind them; a text ends at its first NUL.
-Contacts_TableSource_Column row_of(const sock_apk::CONTACT& contact, std::size_t number) {
-    Contacts_TableSource_Column row;
-    row.col_no = std::to_string(number);
-    row.col_id = until_nul(contact.ID);
-    row.col_name = until_nul(contact.name);
-    // "|" separates fields in requests, so no number on this side holds one.
-    row.col_phone_number = replace_all(until_nul(contact.tel), '|', '!');
+/// "|" separates fields in requests, so no number on this side holds one.
+Contacts_TableSource_Column row_without_separators(const sock_apk::CONTACT& contact,
+                                                   std::size_t number) {
+    Contacts_TableSource_Column row = row_of(contact, number);
+    row.col_phone_number = replace_all(std::move(row.col_phone_number), '|', '!');
     return row;
 }
 
 }  // namespace
-
-const std::array<Row_Column<Contacts_TableSource_Column>, 4>&
-Contacts_TableSource_Column::row_columns() {
-    using Row = Contacts_TableSource_Column;
-    static const std::array<Row_Column<Row>, 4> columns = {{
-        {{.identifier = "col_no", .title = "No.", .comparison = Comparison::number, .width = 6},
-         &Row::col_no},
-        {{.identifier = "col_id", .title = "ID", .comparison = Comparison::number, .width = 8},
-         &Row::col_id},
-        {{.identifier = "col_name", .title = "Name", .width = 30, .wide = true}, &Row::col_name},
-        {{.identifier = "col_phone_number", .title = "Phone Number", .width = 24},
-         &Row::col_phone_number},
-    }};
-    return columns;
-}
 
 Contacts_TableSource::Contacts_TableSource(Main_Window& window)
     : Table_Source(window, "m_LB_Quiet_Contacts") {
@@ -133,7 +114,7 @@ void Contacts_TableSource::TableView_FullData() {
     sock_apk().send_command_get_contatcts_array(command_list_contacts, contacts, &too_long);
     std::vector<Contacts_TableSource_Column> loaded;
     for (const sock_apk::CONTACT& contact : contacts)
-        loaded.push_back(row_of(contact, loaded.size() + 1));
+        loaded.push_back(row_without_separators(contact, loaded.size() + 1));
     filling.append(std::move(loaded), [this](const Contacts_TableSource_Column& row) {
         m_LB_Tips_Contacts.set_text(
             format("Loading No.%s '%s'......", row.col_no.c_str(), row.col_name.c_str()));

@@ -1,11 +1,11 @@
 // The contacts section: the table of the phone's contacts and the commands on it.
 #pragma once
 
-#include <array>
 #include <memory>
 #include <string>
 
 #include "managers/contacts_dialogs.h"
+#include "managers/contacts_rows.h"
 #include "managers/table_source.h"
 
 namespace velk {
@@ -13,16 +13,6 @@ namespace velk {
 inline constexpr const char* msg_AddNothingContact = "Please make sure you enter the Name!";
 inline constexpr const char* msg_AddNothingContact_Number =
     "Please make sure you enter the Number!";
-
-/// One row of the table.
-struct Contacts_TableSource_Column {
-    std::string col_no;  // place in load order, from "1"; kept when the table is sorted
-    std::string col_id;  // the phone's own id of the contact
-    std::string col_name;
-    std::string col_phone_number;
-
-    static const std::array<Row_Column<Contacts_TableSource_Column>, 4>& row_columns();
-};
 
 /// Made with the main window and living as long; registers itself as g_contacts_tablesource.
 /// User-interface thread, but for the bodies of its workers.

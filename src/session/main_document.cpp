@@ -5,6 +5,7 @@
 
 #include "agent/sock_apk.h"
 #include "session/view_contacts.h"
+#include "session/view_sms.h"
 #include "ui/program_wide.h"
 #include "ui/worker.h"
 #include "version.h"
@@ -31,7 +32,7 @@ MainDocument::MainDocument(Desktop& desktop, const std::string& directory)
     m_LevelIndicator_Size_Storage.set_value(0);
     set_fixed_captions();
     m_views = {std::make_unique<View_Start>(),         std::make_unique<View_AllowPCConnect>(),
-               std::make_unique<View_Contacts>(*this), std::make_unique<View_SMS>(),
+               std::make_unique<View_Contacts>(*this), std::make_unique<View_SMS>(*this),
                std::make_unique<View_NULL>(),          std::make_unique<View_SettingPhoneUSB>(),
                std::make_unique<View_App>(),           std::make_unique<View_Music>(),
                std::make_unique<View_Photo>(),         std::make_unique<View_Video>(),

@@ -1,6 +1,7 @@
 // Which view the window shows, and when a section's button does anything.
 #include "base/trace.h"
 #include "managers/contacts_tablesource.h"
+#include "managers/sms_tablesource.h"
 #include "session/main_document.h"
 #include "ui/program_wide.h"
 
@@ -101,7 +102,15 @@ void MainDocument::OnBT_Contacts() {
 }
 
 void MainDocument::OnBT_SMS() {
-    if (may_leave_the_section()) show_section(DEFINE_VIEW_SMS);
+    if (!may_leave_the_section()) return;
+    show_section(DEFINE_VIEW_SMS);
+    if (!g_table_sms_need_refresh) return;
+    g_table_sms_need_refresh = 0;
+    for (Label* label : {&g_sms_tablesource->m_LB_Tel, &g_sms_tablesource->m_LB_SMS_DateTime,
+                         &g_sms_tablesource->m_LB_sms_content})
+        label->set_text("");
+    g_sms_tablesource->OnBT_Refresh();
+    set_BT_Caption_White();
 }
 
 void MainDocument::OnBT_App() {

@@ -118,9 +118,6 @@ class View_SettingPhoneUSB : public Connection_View {
 struct View_NULL : MainViewController {
     View_NULL() : MainViewController("View_NULL") {}
 };
-struct View_SMS : MainViewController {
-    View_SMS() : MainViewController("View_SMS") {}
-};
 struct View_App : MainViewController {
     View_App() : MainViewController("View_App") {}
 };

@@ -15,11 +15,15 @@ namespace velk {
 
 class MainDocument;
 class Contacts_TableSource;
+class SMS_TableSource;
+class SMS_Contacts;
 class View_Start;
 
 // Set once by each of these when it is made, cleared when it goes.
 inline MainDocument* g_window = nullptr;
 inline Contacts_TableSource* g_contacts_tablesource = nullptr;
+inline SMS_TableSource* g_sms_tablesource = nullptr;
+inline SMS_Contacts* g_SMS_Contacts = nullptr;
 inline View_Start* g_View_Start = nullptr;
 
 // The connection.

@@ -1,0 +1,32 @@
+#include "managers/contacts_rows.h"
+
+#include "base/text.h"
+
+namespace velk {
+
+const std::array<Row_Column<Contacts_TableSource_Column>, 4>&
+Contacts_TableSource_Column::row_columns() {
+    using Row = Contacts_TableSource_Column;
+    static const std::array<Row_Column<Row>, 4> columns = {{
+        {{.identifier = "col_no", .title = "No.", .comparison = Comparison::number, .width = 6},
+         &Row::col_no},
+        {{.identifier = "col_id", .title = "ID", .comparison = Comparison::number, .width = 8},
+         &Row::col_id},
+        {{.identifier = "col_name", .title = "Name", .width = 30, .wide = true}, &Row::col_name},
+        {{.identifier = "col_phone_number", .title = "Phone Number", .width = 24},
+         &Row::col_phone_number},
+    }};
+    return columns;
+}
+
+/// A record's ID and name run on into the bytes behind them; a text ends at its first NUL.
+Contacts_TableSource_Column row_of(const sock_apk::CONTACT& contact, std::size_t number) {
+    Contacts_TableSource_Column row;
+    row.col_no = std::to_string(number);
+    row.col_id = until_nul(contact.ID);
+    row.col_name = until_nul(contact.name);
+    row.col_phone_number = until_nul(contact.tel);
+    return row;
+}
+
+}  // namespace velk

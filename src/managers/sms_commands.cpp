@@ -1,0 +1,119 @@
+// What the buttons of the messages section do to the phone and with files.
+#include "base/often_tools_function.h"
+#include "managers/save_page.h"
+#include "managers/sms_export.h"
+#include "managers/sms_tablesource.h"
+#include "ui/program_wide.h"
+
+namespace velk {
+
+void SMS_TableSource::post_status(std::string text) {
+    post([this, text = std::move(text)] { m_LB_TIPS.set_text(text); });
+}
+
+// --- delete ---------------------------------------------------------------------------------
+
+bool SMS_TableSource::SMS_Del_To_APK(const std::string& id, const std::string& SMS_ThreadID) {
+    post([] { g_phone_was_changed = 1; });
+    // Which of the three a phone understands cannot be told, nor can their answers.
+    sock_apk().del_one_sms(id.c_str(), SMS_ThreadID.c_str());
+    sock_apk().del_one_sms_for_NoS4(id.c_str(), SMS_ThreadID.c_str());
+    return sock_apk().del_one_sms_for_ver2(id.c_str(), SMS_ThreadID.c_str());
+}
+
+void SMS_TableSource::delete_one(const SMS_TableSource_Column& row) {
+    const bool deleted = SMS_Del_To_APK(row.col_sms_id, row.col_sms_thread_id);
+    post_status(format(deleted ? "Successfully deleted '%s'." : "Faild to delete '%s'.",
+                       row.col_sms_phone_number.c_str()));
+}
+
+void SMS_TableSource::OnClick_Button_Delete() {
+    if (selected_row == -1) return;
+    ask_person("Are you sure you want to delete the selected item(s)?", [this] {
+        run_command(desktop(), "delete messages", [this] { delete_selected_messages(); });
+    });
+}
+
+void SMS_TableSource::delete_selected_messages() {
+    const bool deleted =
+        delete_selected(table_rows, m_table, [this](const auto& row) { delete_one(row); });
+    if (!deleted) return;
+    post([this] {
+        OnTable_Selected();
+        reload_after_a_change();
+    });
+}
+
+void SMS_TableSource::SMSDeleteAll() {
+    start_guarded(desktop(), g_can_click_sms_delete_all, "delete all", [this](Held_Flag&) {
+        if (person_agrees("Are your sure you want to delete all items?")) sms_delete_all();
+    });
+}
+
+void SMS_TableSource::sms_delete_all() {
+    Busy_Note note = busy("Deleting");
+    const std::vector<SMS_TableSource_Column> rows = rows_on_the_screen();
+    for (std::size_t i = 0; i < rows.size() && !desktop().closing(); ++i) {
+        note.say(format("Deleting %zu of %zu", i + 1, rows.size()));
+        delete_one(rows[i]);
+    }
+    post([this] {
+        table_rows.clear();
+        m_table.reload();
+        m_LB_sms_content.set_text("");
+    });
+}
+
+// --- send -----------------------------------------------------------------------------------
+
+SMS_Send& SMS_TableSource::composer() {
+    if (!composer_) composer_ = std::make_unique<SMS_Send>(window_);
+    return *composer_;
+}
+
+void SMS_TableSource::OnBT_SendSMS() {
+    SMS_Send& dialog = composer();
+    dialog.window_title.set_text("Send Message......");
+    dialog.m_LB_Tips.set_text("");
+    dialog.m_ET_Send_Contects_telname.set_text("");
+    dialog.m_ET_SMS_Content.set_text("");
+    dialog.m_contacts.clear();
+    dialog.showWindow();
+}
+
+// --- export ---------------------------------------------------------------------------------
+
+std::vector<SMS_TableSource_Column> SMS_TableSource::rows_on_the_screen() {
+    return desktop().ask([this] { return std::vector(table_rows.begin(), table_rows.end()); });
+}
+
+void SMS_TableSource::OnBT_Export_SMS() {
+    run_command(desktop(), "export messages", [this] {
+        const std::string path = get_save_fullpath(File_Extension);
+        const bool saved = save_to_html(path);
+        post_status(
+            format(saved ? "Successed to save \"%s\"." : "Faild to save \"%s\".", path.c_str()));
+    });
+}
+
+std::string SMS_TableSource::get_save_fullpath(const std::string& extension) {
+    return choose_save_path(desktop(), "save message to a *." + extension + " file", extension);
+}
+
+bool SMS_TableSource::save_to_html(const std::string& path) {
+    const Busy_Note note = busy("Exporting messages");
+    return tell_saved(path, save_page(path, "Messages", sms_page_data(rows_on_the_screen())));
+}
+
+bool SMS_TableSource::save_to_txt(const std::string& path) {
+    const std::string now = often_tools_function::get_current_date_time();
+    return tell_saved(path, save_text(path, sms_plain_text(rows_on_the_screen(), now)));
+}
+
+bool SMS_TableSource::tell_saved(const std::string& path, const std::string& reason) {
+    // Without a path nothing was asked for, so there is nothing to explain.
+    if (!path.empty()) post([this, reason] { quiet.tell_reason(reason); });
+    return reason.empty();
+}
+
+}  // namespace velk

@@ -1,0 +1,112 @@
+// The messages section itself, and how its table is filled.
+#include "managers/sms_tablesource.h"
+
+#include "managers/filling.h"
+#include "ui/program_wide.h"
+
+namespace velk {
+
+namespace {
+
+constexpr const char* command_list_sms = "47";
+
+}  // namespace
+
+SMS_TableSource::SMS_TableSource(Main_Window& window) : Table_Source(window, "m_LB_Quiet_SMS") {
+    g_sms_tablesource = this;
+    m_LB_Tel.set_text("");
+    m_LB_SMS_DateTime.set_text("");
+    m_table.on_selection([this] { OnTable_Selected(); });
+    section.title = "Messages";
+    section.empty_text = "The messages on your phone are listed here.";
+    section.search_text = "Search numbers and texts";
+    section.table = &m_table;
+    section.status = &m_LB_TIPS;
+    section.detail = {.title = &m_LB_Tel,
+                      .subtitle = &m_LB_SMS_DateTime,
+                      .text = &m_LB_sms_content,
+                      .empty_text = "Select a message to read it here."};
+    set_commands({
+        {.name = "OnBT_SendSMS",
+         .caption = "Send",
+         .icon = "send",
+         .run = [this] { OnBT_SendSMS(); }},
+        {.name = "OnClick_Button_Delete",
+         .caption = "Delete",
+         .icon = "delete",
+         .run = [this] { OnClick_Button_Delete(); },
+         .on_delete_key = true},
+        {.name = "OnBT_SMS_DeleteAll",
+         .caption = "Delete All",
+         .icon = "delete_all",
+         .run = [this] { OnBT_SMS_DeleteAll(); },
+         .guard = &g_can_click_sms_delete_all},
+        {.name = "OnBT_Refresh",
+         .caption = "Refresh",
+         .icon = "refresh",
+         .run = [this] { OnBT_Refresh(); },
+         .guard = &g_can_click_sms_load},
+        {.name = "OnBT_Export_SMS",
+         .caption = "Export",
+         .icon = "export",
+         .run = [this] { OnBT_Export_SMS(); }},
+    });
+}
+
+SMS_TableSource::~SMS_TableSource() {
+    g_sms_tablesource = nullptr;
+}
+
+void SMS_TableSource::OnTable_Selected() {
+    selected_row = m_table.selected_row();
+    const bool there = selected_row >= 0 && selected_row < table_rows.count();
+    const SMS_TableSource_Column nothing;
+    const SMS_TableSource_Column& row =
+        there ? table_rows[static_cast<std::size_t>(selected_row)] : nothing;
+    m_LB_sms_content.set_text(row.col_sms_content);
+    m_LB_Tel.set_text(row.col_sms_phone_number);
+    m_LB_SMS_DateTime.set_text(row.col_sms_datetime);
+}
+
+void SMS_TableSource::OnBT_Refresh() {
+    if (g_can_click_sms_load) SMSLoad();
+}
+
+void SMS_TableSource::SMSLoad() {
+    if (g_can_click_sms_load) list_is_old_ = false;
+    start_guarded(desktop(), g_can_click_sms_load, "messages",
+                  [this](Held_Flag&) { fill_table(); });
+}
+
+void SMS_TableSource::reload_after_a_change() {
+    list_is_old_ = !g_can_click_sms_load;
+    if (list_is_old_) g_table_sms_need_refresh = 1;
+    OnBT_Refresh();
+}
+
+void SMS_TableSource::refresh_button_sms_title() {
+    window_.set_section_title(Toolbar_Section::sms, format("SMS(%d)", table_rows.count()));
+    window_.set_BT_Caption_White();
+}
+
+void SMS_TableSource::fill_table() {
+    const Busy_Note note = busy("Waiting for the phone: messages");
+    Filling filling(desktop(), table_rows, m_table);
+    post([this] { quiet.tell_of_list(""); });
+    std::vector<sock_apk::SMS_RECORD> messages;
+    sock_apk().send_command_get_sms(command_list_sms, messages);
+    std::vector<SMS_TableSource_Column> loaded;
+    for (const sock_apk::SMS_RECORD& message : messages)
+        loaded.push_back(row_of(message, loaded.size() + 1));
+    filling.append(std::move(loaded), [this](const SMS_TableSource_Column& row) {
+        m_LB_TIPS.set_text(format("Loading No.%s '%s'message......", row.col_no.c_str(),
+                                  row.col_sms_phone_number.c_str()));
+    });
+    filling.post([this, count = messages.size()] {
+        m_LB_TIPS.set_text(format("There are %zu message(s) on your Mobile Phone.", count));
+        quiet.tell_of_list(remark_on_list(list_is_old_, g_int_count_sms, count));
+        refresh_button_sms_title();
+    });
+}
+
+}  // namespace velk
