@@ -6,18 +6,15 @@
 namespace velk {
 
 /// The contacts manager with a phone whose contacts the test lists.
-class Contacts_Test : public testing::Test {
+class Contacts_Test : public Manager_Test {
   protected:
     Contacts_Test() {
         recorder.watch(contacts.m_LB_Tips_Contacts);
         recorder.watch(contacts.m_table);
-        window.test_desktop.on_note = [this](const std::string& line) { recorder.note(line); };
-        g_phone_was_changed = 0;
         g_int_count_contacts = 0;
     }
     ~Contacts_Test() override { window.test_desktop.end_work(); }
 
-    void finish() { window.test_desktop.finish_work(); }
     void load(const std::vector<Agent_Double::Contact>& on_the_phone) {
         agent.reply_to(14, Agent_Double::contacts(on_the_phone));
         contacts.OnBT_Contacts_Refresh();
@@ -38,16 +35,7 @@ class Contacts_Test : public testing::Test {
     std::vector<std::string> status_lines() { return recorder.lines_of("m_LB_Tips_Contacts"); }
     const std::string& status() const { return contacts.m_LB_Tips_Contacts.text(); }
     const std::string& quiet() const { return contacts.quiet.m_LB_Quiet.text(); }
-    /// The requests but for those that load the list.
-    std::vector<std::string> edits() {
-        std::vector<std::string> requests = agent.requests();
-        std::erase_if(requests, [](const std::string& request) { return request.size() == 1; });
-        return requests;
-    }
 
-    Agent_Double agent;
-    Outlet_Recorder recorder;
-    Recording_Window window{recorder};
     Contacts_TableSource contacts{window};
 };
 

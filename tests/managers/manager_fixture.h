@@ -37,4 +37,25 @@ class Recording_Window : public Main_Window {
     Outlet_Recorder& recorder_;
 };
 
+/// What the tests of every manager stand on. Who adds the manager ends the work before it goes.
+class Manager_Test : public testing::Test {
+  protected:
+    Manager_Test() {
+        window.test_desktop.on_note = [this](const std::string& line) { recorder.note(line); };
+        g_phone_was_changed = 0;
+    }
+
+    void finish() { window.test_desktop.finish_work(); }
+    /// The requests but for those that load a list.
+    std::vector<std::string> edits() {
+        std::vector<std::string> requests = agent.requests();
+        std::erase_if(requests, [](const std::string& request) { return request.size() == 1; });
+        return requests;
+    }
+
+    Agent_Double agent;
+    Outlet_Recorder recorder;
+    Recording_Window window{recorder};
+};
+
 }  // namespace velk

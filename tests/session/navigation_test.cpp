@@ -1,6 +1,5 @@
-#include <algorithm>
-
 #include "managers/contacts_tablesource.h"
+#include "managers/sms_tablesource.h"
 #include "session/session_fixture.h"
 
 namespace velk {
@@ -37,6 +36,7 @@ TEST_F(Navigation, opens_a_section_when_connected_and_keeps_a_person_where_work_
     expect(false, media);
     g_connected_adb = 1;
     g_table_contacts_need_refresh = 0;
+    g_table_sms_need_refresh = 0;
     expect(true, four);
     expect(true, media);
     for (Flag* working :
@@ -61,17 +61,23 @@ TEST_F(Navigation, gives_a_section_the_window_and_my_android_the_summary_alone) 
     EXPECT_EQ(view_in_the_box(), "nothing");
 }
 
-TEST_F(Navigation, reloads_the_contacts_once_after_a_refresh) {
+TEST_F(Navigation, reloads_contacts_and_messages_once_after_a_refresh) {
     phone_is_fine();
     agent.reply_to(14, Agent_Double::contacts({{"7", "Ann", "555"}}));
+    agent.reply_to(47, Agent_Double::messages({{"555", "hi", "today"}}));
     refresh();
     for (const int visit : {1, 2}) {
         document.OnBT_Contacts();
-        ASSERT_TRUE(desktop.pump_until([] { return g_can_click_contacts_load == 1; }));
+        desktop.finish_work();
         EXPECT_EQ(g_contacts_tablesource->table_rows.size(), 1U) << visit;
+        g_sms_tablesource->m_LB_Tel.set_text("before");
+        document.OnBT_SMS();
+        desktop.finish_work();
+        EXPECT_EQ(g_sms_tablesource->table_rows.size(), 1U) << visit;
+        EXPECT_EQ(g_sms_tablesource->m_LB_Tel.text(), visit == 1 ? "" : "before");
     }
-    const std::vector<std::string> codes = agent.codes();
-    EXPECT_EQ(std::count(codes.begin(), codes.end(), "14"), 1);
+    EXPECT_THAT(agent.codes(), testing::Contains("14").Times(1));
+    EXPECT_THAT(agent.codes(), testing::Contains("47").Times(1));
 }
 
 TEST_F(Navigation, changes_nothing_but_beeps_while_an_editor_keeps_the_focus) {

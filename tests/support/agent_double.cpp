@@ -224,6 +224,21 @@ Agent_Double::Reply Agent_Double::added(const std::string& id) {
     return std::string("\0\x05", 2) + number(id.size() + 5) + '\0' + field(id);
 }
 
+Agent_Double::Reply Agent_Double::messages(const std::vector<Message>& messages) {
+    const auto header = [](std::size_t length) {
+        return std::string("\0/\0\0", 4) + number(length).substr(2) + '\0';
+    };
+    const auto two_bytes = [](unsigned char value) { return number(value).substr(2); };
+    std::string packets;
+    for (const Message& each : messages) {
+        const std::string record = field(each.tel) + field(each.text) + field(each.date) +
+                                   two_bytes(each.type) + number(each.id) + number(each.thread) +
+                                   two_bytes(1);
+        packets += header(record.size()) + record;
+    }
+    return packets + header(0);
+}
+
 Agent_Double::Reply Agent_Double::in_pieces(const std::string& bytes, std::size_t length,
                                             std::chrono::milliseconds wait_between) {
     Reply reply;

@@ -74,6 +74,12 @@ class Agent_Double {
     static Reply contacts(const std::vector<Contact>& contacts);
     /// The reply to an added contact.
     static Reply added(const std::string& id);
+    struct Message {
+        std::string tel, text, date;
+        unsigned char type = 1, id = 0, thread = 0;  // the low bytes of their fields
+    };
+    /// The reply to a request for the messages: a packet for each, and the bare header.
+    static Reply messages(const std::vector<Message>& messages);
     /// The bytes in pieces of this length.
     static Reply in_pieces(const std::string& bytes, std::size_t length,
                            std::chrono::milliseconds wait_between = {});

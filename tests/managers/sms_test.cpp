@@ -1,0 +1,143 @@
+#include "base/file.h"
+#include "managers/sms_export.h"
+#include "managers/sms_fixture.h"
+#include "support/temporary_folder.h"
+
+namespace velk {
+namespace {
+
+using namespace std::string_literals;
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+class SMS_Section : public SMS_Test {
+  protected:
+    void load_three() {
+        load({{"1", "a", "d1", 1, 11, 5},
+              {"2", "b\nc", "d2", 2, 22, 6},
+              {"3", "e", "d3", 1, 33, 7}});
+    }
+    void delete_rows(const std::vector<int>& rows) {
+        sms.m_table.select(rows, rows.back());
+        window.test_desktop.answer_alert(yes);
+        sms.OnClick_Button_Delete();
+    }
+    std::vector<std::string> details() const {
+        return {sms.m_LB_Tel.text(), sms.m_LB_SMS_DateTime.text(), sms.m_LB_sms_content.text()};
+    }
+    /// The three requests that delete one message.
+    static std::vector<std::string> deletes_of(char id, char thread) {
+        const std::string head = "N\0\x08\0\0\0"s + id + "\0\0\0"s + thread;
+        return {head + "\2\0\0"s, head + "\1\0\0"s, head + "\x14\0\0"s};
+    }
+};
+
+TEST_F(SMS_Section, tells_its_progress_row_by_row_and_then_the_count) {
+    g_int_count_sms = 3;
+    agent.reply_to(47, Agent_Double::messages({{"12", "a\nb", "d1", 1}, {"34\0x"s, "c", "d2", 7}}));
+    sms.OnBT_Refresh();
+    finish();
+    EXPECT_THAT(
+        recorder.lines(),
+        ElementsAre("m_table_SMS reloaded: 0 rows", "m_table_SMS: 1 rows", "m_table_SMS scrolled",
+                    "m_LB_TIPS: Loading No.1 '12'message......", "m_table_SMS: 2 rows",
+                    "m_table_SMS scrolled", "m_LB_TIPS: Loading No.2 '34'message......",
+                    "m_LB_TIPS: There are 2 message(s) on your Mobile Phone.", "title 1: SMS(2)",
+                    "captions white"));
+    EXPECT_EQ(sms.table_rows[0].col_sms_content_show, "a b");
+    EXPECT_EQ(sms.table_rows[0].col_sms_type + sms.table_rows[1].col_sms_type, "InboxOutbox");
+    EXPECT_EQ(sms.quiet.m_LB_Quiet.text(), "The phone counts 3, but 2 came. Refresh tries again.");
+    EXPECT_EQ(g_can_click_sms_load, 1);
+}
+
+TEST_F(SMS_Section, shows_the_selected_message_in_full_and_nothing_once_it_is_gone) {
+    load_three();
+    sms.m_table.select({1}, 1);
+    EXPECT_THAT(details(), ElementsAre("2", "d2", "b\nc"));
+    sms.m_table.reload();
+    EXPECT_THAT(details(), ElementsAre("", "", ""));
+}
+
+TEST_F(SMS_Section, deletes_the_selected_with_all_three_requests_and_reloads) {
+    load_three();
+    sms.m_table.sort(0, false);
+    for (const char* reply : {"ok", "ok", "", "", "", "ok"}) agent.reply_once_to('N', reply);
+    delete_rows({0, 1});
+    finish();
+    auto requests = deletes_of(33, 7);
+    for (const std::string& request : deletes_of(22, 6)) requests.push_back(request);
+    EXPECT_EQ(edits(), requests);
+    EXPECT_THAT(
+        std::vector(recorder.lines().begin(), recorder.lines().begin() + 6),
+        ElementsAre("m_table_SMS reloaded: 3 rows",
+                    "alert: Are you sure you want to delete the selected item(s)?",
+                    "m_LB_TIPS: Faild to delete '3'.", "m_LB_TIPS: Successfully deleted '2'.",
+                    "m_table_SMS reloaded: 1 rows", "m_table_SMS reloaded: 0 rows"));
+    EXPECT_EQ(agent.codes().back(), "47");
+    EXPECT_EQ(g_phone_was_changed, 1);
+}
+
+TEST_F(SMS_Section, deletes_what_was_chosen_while_a_load_puts_other_rows_there) {
+    load_three();
+    agent.reply_to(47, Agent_Double::messages({{"2", "", "", 1, 22}, {"3", "", "", 1, 33}}));
+    delete_rows({0});
+    window.test_desktop.pump_until([this] { return agent.requests().size() > 1; });
+    sms.OnBT_Refresh();
+    finish();
+    EXPECT_EQ(edits(), deletes_of(11, 5));
+    EXPECT_EQ(sms.table_rows.count(), 2);
+}
+
+TEST_F(SMS_Section, deletes_all_one_by_one_in_their_order_and_reads_nothing_afterwards) {
+    load_three();
+    sms.m_table.sort(0, false);
+    sms.m_table.select({0}, 0);
+    recorder.clear();
+    for (const char* reply : {"", "", "ok"}) agent.reply_once_to('N', reply);
+    window.test_desktop.answer_alert(yes);
+    sms.OnBT_SMS_DeleteAll();
+    sms.OnBT_SMS_DeleteAll();  // one runs already
+    finish();
+    EXPECT_THAT(
+        recorder.lines(),
+        ElementsAre("alert: Are your sure you want to delete all items?",
+                    "m_LB_TIPS: Successfully deleted '3'.", "m_LB_TIPS: Faild to delete '2'.",
+                    "m_LB_TIPS: Faild to delete '1'.", "m_table_SMS reloaded: 0 rows"));
+    EXPECT_EQ(edits().size(), 9U);
+    EXPECT_EQ(agent.codes().back(), "78");
+    EXPECT_EQ(sms.m_LB_sms_content.text(), "");
+    EXPECT_EQ(g_can_click_sms_delete_all, 1);
+}
+
+TEST_F(SMS_Section, exports_a_page_and_says_why_it_could_not) {
+    const Temporary_Folder folder;
+    load({{"5", "it's", "d", 1}, {"6", "\\'\r\xFF", "e", 2}});
+    for (const std::string& chosen : {folder.path("my.HTML"), folder.path("no/where"), ""s}) {
+        window.test_desktop.choose_file(chosen);
+        sms.section.commands.back().run();
+        finish();
+        const std::string path = chosen.empty() ? "" : chosen + ".HTML";
+        const bool good = chosen == folder.path("my.HTML");
+        EXPECT_EQ(status(), (good ? "Successed" : "Faild") + " to save \""s + path + "\".");
+        EXPECT_EQ(sms.quiet.m_LB_Quiet.text().empty(), good || chosen.empty());
+    }
+    EXPECT_EQ(window.test_desktop.file_panels()[0].title, "save message to a *.HTML file");
+    EXPECT_THAT(read_whole_file(folder.path("my.HTML.HTML")).value_or(""),
+                HasSubstr("data=[\n['ID','Phone Number','Date Time','Type','Text'],"
+                          "\n['1','5','d','Received','it\"s'],"
+                          "\n['2','6','e','Sent','\\\\\" \xEF\xBF\xBD']\n];"));
+}
+
+TEST(SMS_Files, list_the_plain_texts_from_the_last_to_the_first) {
+    SMS_TableSource_Column row;
+    row.col_sms_phone_number = "5";
+    row.col_sms_datetime = "d";
+    row.col_sms_type = "Inbox";
+    row.col_sms_content = "a\nb";
+    EXPECT_EQ(sms_plain_text({row, {}}, "now"),
+              "now\n\n(1)\n         [][]\n\n\n\n(2)\n5         [d][Inbox]\n\na\nb\n");
+    EXPECT_EQ(sms_page_data({}), "\n['ID','Phone Number','Date Time','Type','Text'],");
+}
+
+}  // namespace
+}  // namespace velk
