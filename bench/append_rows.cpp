@@ -4,16 +4,11 @@
 //   QT_QPA_PLATFORM=offscreen build/release/bench/append_rows [ROWS]
 #include <QApplication>
 #include <QTimer>
-#include <algorithm>
-#include <atomic>
-#include <chrono>
-#include <cstdio>
 #include <cstdlib>
-#include <vector>
 
-#include "base/interruptor.h"
 #include "base/text.h"
 #include "managers/contacts_tablesource.h"
+#include "pulse.h"
 #include "session/main_document.h"
 #include "shell/look.h"
 #include "shell/qt_desktop.h"
@@ -23,38 +18,6 @@
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
-
-double milliseconds_since(Clock::time_point begun) {
-    return std::chrono::duration<double, std::milli>(Clock::now() - begun).count();
-}
-
-/// Sends an event to the window's thread every millisecond and notes how long each had to wait:
-/// what a click would have waited at that moment.
-class Pulse : public QObject {
-  public:
-    void beat_until(const std::atomic<bool>& ended) {
-        while (!ended) {
-            QCoreApplication::postEvent(this, new Beat);
-            velk::Interruptor::current().sleep_for(std::chrono::milliseconds(1));
-        }
-    }
-    std::vector<double> waits;  // milliseconds
-
-  protected:
-    bool event(QEvent* event) override {
-        if (const auto* beat = dynamic_cast<Beat*>(event))
-            waits.push_back(milliseconds_since(beat->sent));
-        return true;
-    }
-
-  private:
-    struct Beat : QEvent {
-        Beat() : QEvent(QEvent::User) {}
-        Clock::time_point sent = Clock::now();
-    };
-};
-
 void append(velk::Contacts_TableSource& contacts, int number) {
     const std::string no = std::to_string(number);
     contacts.table_rows.push_back({no, no, "Somebody of the number " + no, "+49 151 " + no});
@@ -62,15 +25,6 @@ void append(velk::Contacts_TableSource& contacts, int number) {
     contacts.m_table.scroll_to_last();
     contacts.m_LB_Tips_Contacts.set_text(
         velk::format("Loading No.%d 'Somebody of the number %d'......", number, number));
-}
-
-void print(std::vector<double> waits, int rows, double total) {
-    std::sort(waits.begin(), waits.end());
-    const std::size_t count = waits.size();
-    std::printf(
-        "%d rows: %.0f ms in all; waits of %zu events: median %.2f ms, 99%% %.2f ms, longest %.2f "
-        "ms\n",
-        rows, total, count, waits[count / 2], waits[count * 99 / 100], waits.back());
 }
 
 }  // namespace
@@ -89,24 +43,25 @@ int main(int argument_count, char** arguments) {
     document.displayViewController(velk::DEFINE_VIEW_Contacts);
     velk::Contacts_TableSource& contacts = *velk::g_contacts_tablesource;
 
-    Pulse pulse;
+    velk::Pulse pulse;
     std::atomic<bool> ended = false;
     double total = 0;
     QTimer::singleShot(200, &window, [&] {  // the window has been drawn by then
-        const auto begun = Clock::now();
+        const auto begun = velk::Clock::now();
         velk::Worker::start("pulse", [&] { pulse.beat_until(ended); });
         velk::Worker::start("rows", [&, begun] {
             for (int number = 1; number <= rows; ++number)
                 desktop.post([&contacts, number] { append(contacts, number); });
             desktop.post([&, begun] {
-                total = milliseconds_since(begun);
+                total = velk::milliseconds_since(begun);
                 ended = true;
                 QTimer::singleShot(100, &application, &QApplication::quit);
             });
         });
     });
     QApplication::exec();
-    if (!pulse.waits.empty()) print(pulse.waits, rows, total);
+    std::printf("%d rows: %.0f ms in all\n", rows, total);
+    pulse.print();
     velk::Worker::stop_all(std::chrono::seconds(1));
     return EXIT_SUCCESS;
 }
