@@ -1,36 +1,90 @@
 #include "shell/panels.h"
 
-#include <QApplication>
+#include <QFile>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLayout>
 #include <QMessageBox>
 #include <QPushButton>
+#include <utility>
+
+#include "shell/widgets.h"
 
 namespace velk {
 
 namespace {
 
-/// A type of its own, so that closing all of them closes no other box.
-class Alert_Box : public QMessageBox {
-  public:
-    using QMessageBox::QMessageBox;
-};
-
 QMessageBox::Icon icon_of(Alert_Style style) {
     return style == Alert_Style::warning ? QMessageBox::Warning : QMessageBox::Information;
 }
 
+QFileDialog::FileMode mode_of(const File_Panel& panel) {
+    if (panel.kind == File_Panel::Kind::save) return QFileDialog::AnyFile;
+    return panel.files ? QFileDialog::ExistingFile : QFileDialog::Directory;
+}
+
+/// The toolkit's own panel on every desktop: one that the desktop lends asks about names that
+/// exist, and takes either files or folders.
+class File_Box : public QFileDialog {
+  public:
+    File_Box(QWidget* front, const File_Panel& panel)
+        : QFileDialog(front, panel.sheet ? Qt::Sheet : Qt::Dialog), panel_(panel) {
+        setAttribute(Qt::WA_DeleteOnClose);
+        setOptions(DontUseNativeDialog | DontConfirmOverwrite);
+        setFileMode(mode_of(panel));
+        setOption(ShowDirsOnly, !panel.files);
+        setAcceptMode(panel.kind == File_Panel::Kind::save ? AcceptSave : AcceptOpen);
+        if (!panel.title.empty()) setWindowTitle(shown(panel.title));
+        if (!panel.message.empty()) show_message();
+        if (!panel.prompt.empty()) keep_prompt();
+    }
+
+    std::string chosen_path() const {
+        return QFile::encodeName(selectedFiles().value(0)).toStdString();
+    }
+
+  protected:
+    // The toolkit would go into a folder that is to be chosen like a file.
+    void accept() override {
+        const bool either = panel_.kind == File_Panel::Kind::open && panel_.files && panel_.folders;
+        if (either && QFileInfo(selectedFiles().value(0)).isDir())
+            done(Accepted);
+        else
+            QFileDialog::accept();
+    }
+
+  private:
+    void show_message() {
+        auto* const message = new QLabel(shown(panel_.message), this);
+        message->setTextFormat(Qt::PlainText);
+        message->setWordWrap(true);
+        message->setContentsMargins(space_between, space_between, space_between, 0);
+        layout()->setMenuBar(message);  // the place above everything else
+    }
+
+    // The button is renamed by the toolkit whenever a folder is pointed at.
+    void keep_prompt() {
+        const auto name_button = [this] { setLabelText(Accept, shown(panel_.prompt)); };
+        name_button();
+        connect(this, &QFileDialog::currentChanged, this, name_button, Qt::QueuedConnection);
+    }
+
+    File_Panel panel_;
+};
+
 }  // namespace
 
-void open_alert_box(QWidget* window, const Alert& alert, std::function<void(int)> answered) {
-    auto* const box = new Alert_Box(window);
+QDialog* open_alert_box(QWidget* front, const Alert& alert, std::function<void(int)> answered) {
+    auto* const box = new QMessageBox(front);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setIcon(icon_of(alert.style));
-    box->setWindowTitle(QString::fromUtf8(alert.title));
+    box->setWindowTitle(shown(alert.title));
     box->setTextFormat(Qt::PlainText);
-    box->setText(QString::fromUtf8(alert.text));
+    box->setText(shown(alert.text));
     for (int i = 0; i < static_cast<int>(alert.buttons.size()); ++i) {
         // One role for all keeps the given order on every desktop.
         QPushButton* const button = box->addButton(
-            QString::fromUtf8(alert.buttons[static_cast<std::size_t>(i)]), QMessageBox::ActionRole);
+            shown(alert.buttons[static_cast<std::size_t>(i)]), QMessageBox::ActionRole);
         if (i < alert.last_button()) continue;
         box->setDefaultButton(button);
         box->setEscapeButton(button);
@@ -41,11 +95,22 @@ void open_alert_box(QWidget* window, const Alert& alert, std::function<void(int)
         answered(pressed < 0 ? escape : static_cast<int>(pressed));
     });
     box->open();
+    return box;
 }
 
-void close_alert_boxes() {
-    for (QWidget* const box : QApplication::topLevelWidgets())
-        if (dynamic_cast<Alert_Box*>(box)) delete box;
+QDialog* open_file_box(QWidget* front, const File_Panel& panel,
+                       std::function<void(std::string)> chosen) {
+    auto* const box = new File_Box(front, panel);
+    QObject::connect(box, &QDialog::finished, box, [box, chosen = std::move(chosen)](int result) {
+        chosen(result == QDialog::Accepted ? box->chosen_path() : std::string());
+    });
+    if (panel.sheet) {
+        box->open();
+    } else {
+        box->setWindowModality(Qt::ApplicationModal);
+        box->show();
+    }
+    return box;
 }
 
 }  // namespace velk

@@ -1,19 +1,24 @@
-// Every box that stands before the window and waits for a person.
+// The boxes of the window system that stand before the window and wait for a person.
 #pragma once
 
+#include <QDialog>
 #include <functional>
+#include <string>
 
-#include "ui/desktop.h"
-
-class QWidget;
+#include "ui/boxes.h"
 
 namespace velk {
 
-/// Opens the alert over the window (or alone) and returns at once. `answered` gets the index of
-/// the pressed button; it is dropped uncalled when the box is closed by close_alert_boxes().
-void open_alert_box(QWidget* window, const Alert& alert, std::function<void(int)> answered);
+// Each opens its box and returns at once; `front` is what stands foremost, or nothing. A box that
+// is closed deletes itself; who deletes an open one drops its callback uncalled.
 
-/// Destroys every open alert.
-void close_alert_boxes();
+/// `answered` gets the index of the pressed button.
+QDialog* open_alert_box(QWidget* front, const Alert& alert, std::function<void(int)> answered);
+
+/// `chosen` gets the path, empty when the person cancelled. A name that exists already is not
+/// asked about: the program does that, which knows the name that it will write. A sheet belongs to
+/// `front` alone; another panel stands before the whole program.
+QDialog* open_file_box(QWidget* front, const File_Panel& panel,
+                       std::function<void(std::string)> chosen);
 
 }  // namespace velk

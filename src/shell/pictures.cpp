@@ -76,8 +76,17 @@ class Themed_Icon : public QIconEngine {
     QColor colour(QIcon::Mode mode) const {
         const Look look = Look::now();
         if (mode == QIcon::Disabled) return look.disabled;
-        if (ink_ == Ink::accent) return look.accent_text;
-        return ink_ == Ink::on_accent ? look.on_accent : look.text;
+        switch (ink_) {
+            case Ink::muted:
+                return look.muted;
+            case Ink::accent:
+                return look.accent_text;
+            case Ink::on_accent:
+                return look.on_accent;
+            case Ink::text:
+                break;
+        }
+        return look.text;
     }
 
     QString name_;

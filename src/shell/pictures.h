@@ -13,8 +13,9 @@ namespace velk {
 /// there is no such drawing, or no reader for it on this system.
 QPixmap icon_pixmap(const QString& name, QSize size, qreal ratio, const QColor& ink);
 
-/// The colour of a button's icon: that of texts, the accent, or that of texts on the accent.
-enum class Ink { text, accent, on_accent };
+/// The colour of a button's icon: that of texts or of quiet texts, the accent, or that of texts on
+/// the accent.
+enum class Ink { text, muted, accent, on_accent };
 
 /// An icon for a button, which follows the theme and the button's state. Empty for a name without
 /// a drawing.

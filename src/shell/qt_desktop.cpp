@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QEvent>
 
+#include "shell/dialog_window.h"
 #include "shell/panels.h"
 
 namespace velk {
@@ -26,16 +27,43 @@ bool Qt_Desktop::event(QEvent* event) {
     return true;
 }
 
-void Qt_Desktop::open_alert(const Alert& alert, std::function<void(int)> answered) {
-    if (alerts_dropped_)
-        answered(alert.last_button());
-    else
-        open_alert_box(window_, alert, std::move(answered));
+QWidget* Qt_Desktop::front() const {
+    QWidget* const box = QApplication::activeModalWidget();
+    return box ? box : window_.data();
 }
 
-void Qt_Desktop::drop_alerts() {
-    alerts_dropped_ = true;
-    close_alert_boxes();
+void Qt_Desktop::keep(QWidget* box) {
+    std::erase_if(boxes_, [](const QPointer<QWidget>& old) { return old.isNull(); });
+    boxes_.emplace_back(box);
+}
+
+void Qt_Desktop::open_alert(const Alert& alert, std::function<void(int)> answered) {
+    if (boxes_dropped_)
+        answered(alert.last_button());
+    else
+        keep(open_alert_box(front(), alert, std::move(answered)));
+}
+
+void Qt_Desktop::open_file_panel(const File_Panel& panel, std::function<void(std::string)> chosen) {
+    if (boxes_dropped_)
+        chosen({});
+    else
+        keep(open_file_box(front(), panel, std::move(chosen)));
+}
+
+void Qt_Desktop::show_dialog(Dialog& dialog, std::function<void()> closed) {
+    if (boxes_dropped_) return closed();
+    auto* const window = new Dialog_Window(dialog, front());
+    keep(window);
+    connect(this, &Qt_Desktop::turn_ended, window, &Dialog_Window::look_at_guards);
+    connect(window, &QDialog::finished, window, std::move(closed));
+    window->open();
+}
+
+void Qt_Desktop::drop_boxes() {
+    boxes_dropped_ = true;
+    for (const QPointer<QWidget>& box : boxes_) delete box.data();
+    boxes_.clear();
 }
 
 void Qt_Desktop::beep() {

@@ -5,7 +5,9 @@
 #include <QPointer>
 #include <QWidget>
 #include <functional>
+#include <vector>
 
+#include "shell/input_hold.h"
 #include "ui/desktop.h"
 
 namespace velk {
@@ -15,14 +17,15 @@ class Qt_Desktop : public QObject, public Desktop {
     Q_OBJECT
 
   public:
-    /// The window that alerts belong to. Without one they stand alone.
+    /// The window that boxes stand before. Without one they stand alone.
     void set_window(QWidget* window) { window_ = window; }
 
-    /// The window is closing: open alerts go, which lets the workers go that asked, and alerts
-    /// that still come are answered as if the person had pressed Escape.
-    void drop_alerts();
+    /// The window is closing: open boxes go, which lets the workers go that wait for them, and
+    /// boxes that still come are answered as if the person had cancelled them.
+    void drop_boxes();
 
     void open_alert(const Alert& alert, std::function<void(int)> answered) override;
+    void open_file_panel(const File_Panel& panel, std::function<void(std::string)> chosen) override;
     void beep() override;
     bool end_editing() override;
     void terminate() override;
@@ -32,12 +35,20 @@ class Qt_Desktop : public QObject, public Desktop {
     void turn_ended();
 
   protected:
+    void show_dialog(Dialog& dialog, std::function<void()> closed) override;
+    void input_changed() override { input_hold_.hold(!takes_input()); }
     void wake() override;
     bool event(QEvent* event) override;
 
   private:
+    /// What stands foremost: the box that was opened last, else the window.
+    QWidget* front() const;
+    void keep(QWidget* box);
+
     QPointer<QWidget> window_;
-    bool alerts_dropped_ = false;
+    std::vector<QPointer<QWidget>> boxes_;  // that are open
+    bool boxes_dropped_ = false;
+    Input_Hold input_hold_;
 };
 
 }  // namespace velk

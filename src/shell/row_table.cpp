@@ -22,12 +22,6 @@ namespace {
 constexpr int space_in_a_row = 14;
 constexpr int space_beside_a_cell = 12;
 
-QString one_line(QString text) {
-    for (QChar& character : text)
-        if (character.category() == QChar::Other_Control) character = u' ';
-    return text;
-}
-
 /// Cells are one line of text; a right-to-left text is set from its own side but keeps its place,
 /// and a text without room is told in full by the tool tip.
 class Cell_Delegate : public QStyledItemDelegate {
@@ -74,6 +68,7 @@ Row_Table::Row_Table(Table& table, Binding& binding, QString empty_text, QWidget
       table_(table),
       model_(new Table_Model(table, this)),
       empty_text_(std::move(empty_text)),
+      rows_(table.rows().count()),
       scrolls_(table.scrolls()) {
     setModel(model_);
     setItemDelegate(new Cell_Delegate(this));
@@ -87,6 +82,8 @@ Row_Table::Row_Table(Table& table, Binding& binding, QString empty_text, QWidget
     setVerticalScrollMode(ScrollPerPixel);
     setAccessibleDescription(empty_text_);
     set_up_columns();
+    connect(model_, &QAbstractItemModel::modelReset, this, &Row_Table::restore_selection);
+    restore_selection();
     connect(selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &Row_Table::report_selection);
     connect(selectionModel(), &QItemSelectionModel::currentRowChanged, this,
@@ -113,9 +110,8 @@ void Row_Table::set_up_columns() {
 }
 
 void Row_Table::show_changes() {
-    const int rows_before = model_->rowCount();
     model_->catch_up();
-    if (model_->rowCount() != rows_before && sorted_column_ != none) {
+    if (std::exchange(rows_, table_.rows().count()) != rows_ && sorted_column_ != none) {
         sorted_column_ = none;  // rows that have come since are not sorted
         show_arrow();
     }
@@ -132,12 +128,43 @@ std::vector<int> Row_Table::selected_row_numbers() const {
 }
 
 void Row_Table::report_selection() {
+    if (restoring_) return;
     model_->catch_up();  // a selection of rows that are gone is none
     std::vector<int> rows = selected_row_numbers();
     const int current = currentIndex().row();
     const bool selected = std::binary_search(rows.begin(), rows.end(), current);
-    const int last = rows.empty() ? -1 : selected ? current : rows.back();
+    const int last = rows.empty() ? none : model_->table_row(selected ? current : rows.back());
+    for (int& row : rows) row = model_->table_row(row);
     table_.select(std::move(rows), last);
+}
+
+// Rows of a model that starts anew have lost their selection in the view, not in the table.
+void Row_Table::restore_selection() {
+    std::vector<int> kept;
+    QItemSelection ranges;
+    for (const int row : table_.selected_rows()) {
+        const int place = model_->view_row(row);
+        if (place == Table_Model::not_shown) continue;
+        kept.push_back(row);
+        if (ranges.isEmpty() || ranges.last().bottom() + 1 != place)
+            ranges.select(model_->index(place, 0), model_->index(place, model_->columnCount() - 1));
+        else
+            ranges.last() = {ranges.last().topLeft(),
+                             model_->index(place, model_->columnCount() - 1)};
+    }
+    const int last = table_.selected_row();
+    const int current = last == none ? none : model_->view_row(last);
+    restoring_ = true;
+    selectionModel()->select(ranges, QItemSelectionModel::ClearAndSelect);
+    if (current != none)
+        selectionModel()->setCurrentIndex(model_->index(current, 0), QItemSelectionModel::NoUpdate);
+    restoring_ = false;
+    table_.select(std::move(kept), current == none ? none : last);
+}
+
+void Row_Table::search(const QString& typed) {
+    model_->catch_up();
+    model_->search(Search_Term(typed));
 }
 
 void Row_Table::sort_by(int column) {
@@ -176,10 +203,12 @@ void Row_Table::keyPressEvent(QKeyEvent* event) {
 void Row_Table::paintEvent(QPaintEvent* event) {
     QTableView::paintEvent(event);
     if (model_->rowCount() > 0) return;
+    const bool found_nothing = table_.rows().count() > 0;
     QPainter painter(viewport());
     painter.setPen(Look::now().muted);
     painter.drawText(viewport()->rect().adjusted(24, 24, -24, -24),
-                     static_cast<int>(Qt::AlignCenter) | Qt::TextWordWrap, empty_text_);
+                     static_cast<int>(Qt::AlignCenter) | Qt::TextWordWrap,
+                     found_nothing ? QStringLiteral("Nothing matches.") : empty_text_);
 }
 
 }  // namespace velk

@@ -9,14 +9,19 @@ namespace velk {
 
 class Table_Model;
 
-/// A table on the window: shows a Table's rows, reports what the person selects, sorts the rows
-/// themselves when a header is clicked, and copies the selection as text.
+/// A table on the window: shows a Table's rows or those of them that are searched for, reports what
+/// the person selects, sorts the rows themselves when a header is clicked, and copies the selection
+/// as text.
 class Row_Table : public QTableView {
     Q_OBJECT
 
   public:
     /// `table` must outlive this. `empty_text` stands in the table while it has no rows.
     Row_Table(Table& table, Binding& binding, QString empty_text, QWidget* parent = nullptr);
+
+    /// Shows the rows that have this text in them, all when it is empty. The same rows stay
+    /// selected, but for those that go from sight.
+    void search(const QString& typed);
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -28,6 +33,7 @@ class Row_Table : public QTableView {
     void set_up_columns();
     void show_changes();
     void report_selection();
+    void restore_selection();
     void sort_by(int column);
     void show_arrow();
     void copy_selection() const;
@@ -36,9 +42,11 @@ class Row_Table : public QTableView {
     Table& table_;
     Table_Model* model_;
     QString empty_text_;
+    int rows_ = 0;  // how many there were when last looked
     int scrolls_ = 0;
     int sorted_column_ = none;  // which a click has sorted, while no other rows have come
     bool ascending_ = false;
+    bool restoring_ = false;  // what changes in the selection now is none of the person's doing
 };
 
 }  // namespace velk

@@ -5,13 +5,14 @@
 #include "shell/widgets.h"
 #include "ui/section.h"
 
-class QHBoxLayout;
+class QLayout;
 
 namespace velk {
 
 class Row_Table;
 
-/// The page of any section: its commands, its table, its status line, drawn from its description.
+/// The page of any section, drawn from its description: its title and search box, its commands,
+/// its table, perhaps beside the selected row in full, and its two lines of status.
 class Section_Page : public QWidget {
     Q_OBJECT
 
@@ -20,8 +21,13 @@ class Section_Page : public QWidget {
     Section_Page(const Section& section, const Window_Parts& parts);
 
   private:
-    QHBoxLayout* command_row(const Section& section, const Window_Parts& parts);
+    QLayout* title_row();
+    QLayout* command_row();
+    QWidget* table_and_detail();
+    QLayout* status_lines();
 
+    const Section& section_;
+    Window_Parts parts_;
     Row_Table* table_;
 };
 

@@ -1,5 +1,8 @@
 #include "shell/table_model.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "shell/widgets.h"
 
 namespace velk {
@@ -17,7 +20,8 @@ Table_Model::Table_Model(Table& table, QObject* parent)
     : QAbstractTableModel(parent),
       table_(table),
       announced_(table.rows().count()),
-      reloads_(table.reloads()) {
+      reloads_(table.reloads()),
+      new_texts_(table.new_texts()) {
     const auto& all = table.rows().columns();
     for (std::size_t i = 0; i < all.size(); ++i)
         if (!all[i].hidden) columns_.push_back(static_cast<int>(i));
@@ -27,22 +31,74 @@ const Column& Table_Model::column(int column) const {
     return table_.rows().columns()[static_cast<std::size_t>(table_column(column))];
 }
 
+int Table_Model::table_row(int row) const {
+    return searching() ? found_[static_cast<std::size_t>(row)] : row;
+}
+
+int Table_Model::view_row(int row) const {
+    if (!searching()) return row < announced_ ? row : not_shown;
+    const auto place = std::lower_bound(found_.begin(), found_.end(), row);
+    if (place == found_.end() || *place != row) return not_shown;
+    return static_cast<int>(place - found_.begin());
+}
+
 void Table_Model::catch_up() {
+    const bool new_texts = std::exchange(new_texts_, table_.new_texts()) != table_.new_texts();
     const int count = table_.rows().count();
-    if (reloads_ != table_.reloads() || count < announced_) {
-        beginResetModel();
-        reloads_ = table_.reloads();
-        announced_ = count;
-        endResetModel();
-    } else if (count > announced_) {
-        beginInsertRows({}, announced_, count - 1);
-        announced_ = count;
-        endInsertRows();
-    }
+    if (reloads_ != table_.reloads() || count < announced_) return start_anew();
+    if (new_texts) show_new_texts();
+    if (count > announced_) show_appended();
+}
+
+void Table_Model::search(const Search_Term& term) {
+    if (term.empty() && !searching()) return;
+    term_ = term;
+    start_anew();
+}
+
+void Table_Model::start_anew() {
+    beginResetModel();
+    reloads_ = table_.reloads();
+    announced_ = table_.rows().count();
+    found_ = found_between(0, announced_);
+    endResetModel();
+}
+
+void Table_Model::show_new_texts() {
+    if (searching()) return start_anew();
+    if (announced_ == 0) return;
+    emit dataChanged(index(0, 0), index(announced_ - 1, columnCount() - 1),
+                     {Qt::DisplayRole, Qt::EditRole});
+}
+
+void Table_Model::show_appended() {
+    const int count = table_.rows().count();
+    const std::vector<int> found = found_between(announced_, count);
+    const int added = searching() ? static_cast<int>(found.size()) : count - announced_;
+    if (added > 0) beginInsertRows({}, rowCount(), rowCount() + added - 1);
+    announced_ = count;
+    found_.insert(found_.end(), found.begin(), found.end());
+    if (added > 0) endInsertRows();
+}
+
+bool Table_Model::is_found(int row) const {
+    return std::any_of(columns_.begin(), columns_.end(), [&](int column) {
+        const auto& described = table_.rows().columns()[static_cast<std::size_t>(column)];
+        return described.comparison == Comparison::text &&
+               term_.is_in(table_.rows().cell(row, column));
+    });
+}
+
+std::vector<int> Table_Model::found_between(int first, int end) const {
+    std::vector<int> found;
+    for (int row = first; searching() && row < end; ++row)
+        if (is_found(row)) found.push_back(row);
+    return found;
 }
 
 int Table_Model::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : announced_;
+    if (parent.isValid()) return 0;
+    return searching() ? static_cast<int>(found_.size()) : announced_;
 }
 
 int Table_Model::columnCount(const QModelIndex& parent) const {
@@ -51,7 +107,8 @@ int Table_Model::columnCount(const QModelIndex& parent) const {
 
 // Between a change of the rows and the next catch_up() fewer may be there than were told of.
 bool Table_Model::is_there(const QModelIndex& index) const {
-    return index.isValid() && index.row() < announced_ && index.row() < table_.rows().count();
+    return index.isValid() && index.row() < rowCount() &&
+           table_row(index.row()) < table_.rows().count();
 }
 
 QVariant Table_Model::data(const QModelIndex& index, int role) const {
@@ -59,7 +116,7 @@ QVariant Table_Model::data(const QModelIndex& index, int role) const {
     switch (role) {
         case Qt::DisplayRole:
         case Qt::EditRole:
-            return shown(table_.rows().cell(index.row(), table_column(index.column())));
+            return shown(table_.rows().cell(table_row(index.row()), table_column(index.column())));
         case Qt::TextAlignmentRole:
             return alignment(column(index.column()).comparison);
         default:
@@ -69,8 +126,8 @@ QVariant Table_Model::data(const QModelIndex& index, int role) const {
 
 bool Table_Model::setData(const QModelIndex& index, const QVariant& value, int role) {
     if (role != Qt::EditRole || !is_there(index)) return false;
-    const QByteArray text = value.toString().toUtf8();
-    table_.rows().set_cell(index.row(), table_column(index.column()), text.toStdString());
+    table_.rows().set_cell(table_row(index.row()), table_column(index.column()),
+                           value.toString().toStdString());
     emit dataChanged(index, index, {Qt::DisplayRole, Qt::EditRole});
     return true;
 }
@@ -82,9 +139,12 @@ QVariant Table_Model::headerData(int section, Qt::Orientation orientation, int r
     return {};
 }
 
+// Numbers and sizes are the phone's; only words are a person's to write.
 Qt::ItemFlags Table_Model::flags(const QModelIndex& index) const {
     if (!index.isValid()) return Qt::NoItemFlags;
-    return Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsEditable | Qt::ItemNeverHasChildren;
+    const bool words = column(index.column()).comparison == Comparison::text;
+    return Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren |
+           (words ? Qt::ItemIsEditable : Qt::NoItemFlags);
 }
 
 }  // namespace velk

@@ -8,6 +8,14 @@
 
 namespace velk {
 
+QString one_line(QString text) {
+    for (QChar& character : text)
+        if (character.category() == QChar::Other_Control || character == QChar::LineSeparator ||
+            character == QChar::ParagraphSeparator)
+            character = u' ';
+    return text;
+}
+
 QString plain_tool_tip(const QString& text) {
     return Qt::mightBeRichText(text) ? text.toHtmlEscaped() : text;
 }
@@ -28,17 +36,8 @@ void Text_Label::set_room(int least, int most) {
     updateGeometry();
 }
 
-QString Text_Label::line() const {
-    QString one_line = text();
-    for (QChar& character : one_line)
-        if (character.category() == QChar::Other_Control || character == QChar::LineSeparator ||
-            character == QChar::ParagraphSeparator)
-            character = u' ';
-    return one_line;
-}
-
 QString Text_Label::drawn_text() const {
-    return dash_for_nothing_ && text().isEmpty() ? QStringLiteral("–") : line();
+    return dash_for_nothing_ && text().isEmpty() ? QStringLiteral("–") : one_line(text());
 }
 
 int Text_Label::text_width() const {
@@ -71,7 +70,7 @@ void Text_Label::paintEvent(QPaintEvent*) {
 
 bool Text_Label::event(QEvent* event) {
     if (event->type() != QEvent::ToolTip) return QLabel::event(event);
-    const bool short_of_room = fontMetrics().horizontalAdvance(line()) > width();
+    const bool short_of_room = fontMetrics().horizontalAdvance(one_line(text())) > width();
     const QString tip = toolTip().isEmpty() && short_of_room ? plain_tool_tip(text()) : toolTip();
     QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), tip, this);
     return true;

@@ -33,7 +33,6 @@ class Text_Label : public QLabel {
     bool event(QEvent* event) override;
 
   private:
-    QString line() const;
     QString drawn_text() const;
     int text_width() const;
     int width_of(int characters) const;
@@ -43,6 +42,9 @@ class Text_Label : public QLabel {
     bool sentence_ = false;
     bool dash_for_nothing_ = false;
 };
+
+/// The text with blanks in the places of line breaks, tabs and the like.
+QString one_line(QString text);
 
 /// `text` as a tool tip that is never taken for markup.
 QString plain_tool_tip(const QString& text);

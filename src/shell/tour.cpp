@@ -1,21 +1,24 @@
 #include "shell/tour.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QCursor>
+#include <QDialogButtonBox>
 #include <QDir>
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QScreen>
-#include <algorithm>
-#include <cctype>
 #include <cstdio>
 #include <utility>
 
 #include "base/text.h"
 #include "session/main_document.h"
 #include "shell/velk_window.h"
-#include "ui/program_wide.h"
+#include "ui/section.h"
 
 namespace velk {
 
@@ -24,21 +27,9 @@ namespace {
 constexpr QSize size_of_pictures{1280, 800};
 constexpr int milliseconds_between_looks = 20;
 constexpr int longest_wait = 120'000;  // milliseconds at one stop
+constexpr QColor shade(0, 0, 0, 70);   // over what a box stands before
 
-struct Section_Stop {
-    int view;
-    const char* button;
-};
-
-constexpr Section_Stop section_stops[] = {
-    {DEFINE_VIEW_Contacts, "m_BT_Contacts"}, {DEFINE_VIEW_SMS, "m_BT_SMS"},
-    {DEFINE_VIEW_App, "m_BT_Apps"},          {DEFINE_VIEW_Music, "m_BT_Music"},
-    {DEFINE_VIEW_Photo, "m_BT_Photo"},       {DEFINE_VIEW_Video, "m_BT_Video"},
-    {DEFINE_VIEW_Book, "m_BT_Book"},
-};
-
-void press_and_release(QWidget* target) {
-    const QPointF at = QRectF(target->rect()).center();
+void press_and_release(QWidget* target, QPointF at) {
     const QPointF on_screen = target->mapToGlobal(at);
     QMouseEvent press(QEvent::MouseButtonPress, at, on_screen, Qt::LeftButton, Qt::LeftButton,
                       Qt::NoModifier);
@@ -48,16 +39,8 @@ void press_and_release(QWidget* target) {
     QCoreApplication::sendEvent(target, &release);
 }
 
-/// A short attempt may be over before the first point is lit.
-bool the_points_run() {
-    const Image& first = g_View_Start->m_Image_loading_1;
-    const bool lit = first.picture() == g_PicFileName_LoadingAnimation_Light;
-    return !first.hidden() && (lit || g_loading_animation_stop);
-}
-
-bool all_guards_are_up(const Section& section) {
-    return std::all_of(section.commands.begin(), section.commands.end(),
-                       [](const Command& each) { return !each.guard || *each.guard; });
+void press_and_release(QWidget* target) {
+    press_and_release(target, QRectF(target->rect()).center());
 }
 
 }  // namespace
@@ -82,50 +65,9 @@ Tour::Tour(MainDocument& document, Velk_Window& window, std::string folder)
     }
 }
 
-void Tour::plan() {
-    stops_.push_back(
-        {"connecting", [this] { click("OnBT_Refresh"); }, [] { return the_points_run(); }, {}});
-    stops_.push_back({"connected", {}, [this] { return attempt_has_ended(); }, {}});
-    stops_.push_back({"summary", [this] { click("m_BT_MyAndroid"); },
-                      [this] { return shows(nullptr); },
-                      [this] { return summary_in_words(document_); }});
-    plan_sections();
-}
-
-void Tour::plan_sections() {
-    for (const auto& [id, button] : section_stops) {
-        const MainViewController* const view =
-            document_.m_views[static_cast<std::size_t>(id)].get();
-        const Section* const section = view->section();
-        if (!section) continue;
-        std::string name = section->title;
-        std::transform(name.begin(), name.end(), name.begin(),
-                       [](unsigned char letter) { return std::tolower(letter); });
-        stops_.push_back({name, [this, caption = button] { click(caption); },
-                          [this, view, section] {
-                              return shows(view) && all_guards_are_up(*section) &&
-                                     document_.busy.m_LB_Busy.text().empty();
-                          },
-                          [section] {
-                              return format("%s: %d rows\n", section->title.c_str(),
-                                            section->table->rows().count());
-                          }});
-    }
-}
-
-bool Tour::shows(const MainViewController* view) const {
-    return document_.m_Control_Box1.view() == view;
-}
-
-bool Tour::attempt_has_ended() {
-    if (!g_can_click_refresh || !g_can_click_loading_animation) return false;
-    if (!g_connected_adb)
-        fail("no phone was reached: " + document_.m_LB_Connected.text() + " (shown is " +
-             document_.m_Control_Box1.view()->name() + ")");
-    return !finished_;
-}
-
 void Tour::start_next() {
+    while (!stops_.empty() && stops_.front().left_out && stops_.front().left_out())
+        stops_.pop_front();
     if (stops_.empty()) return finish(0);
     waited_.start();
     if (stops_.front().start) stops_.front().start();
@@ -133,11 +75,10 @@ void Tour::start_next() {
 
 void Tour::look() {
     if (finished_) return;
-    if (const auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
-        return fail("the program asks: " + box->text().toStdString());
+    if (qobject_cast<QMessageBox*>(front())) return answer_question();
     const Stop stop = stops_.front();
-    if (stop.reached()) {
-        take_picture();
+    if (document_.desktop().takes_input() && stop.reached()) {
+        if (stop.pictured) take_picture();
         if (stop.report) report_ += stop.report();
         if (finished_) return;
         stops_.pop_front();
@@ -147,20 +88,64 @@ void Tour::look() {
     }
 }
 
+void Tour::answer_question() {
+    const auto* const box = qobject_cast<QMessageBox*>(front());
+    for (QAbstractButton* const button : box->buttons())
+        if (stops_.front().agrees && button->text() == QStringLiteral("Yes"))
+            return press_and_release(button);
+    fail("the program asks: " + box->text().toStdString());
+}
+
+QWidget* Tour::front() const {
+    QWidget* const box = QApplication::activeModalWidget();
+    return box ? box : &window_;
+}
+
+bool Tour::is_in_front(const char* name) const {
+    return front()->objectName() == QLatin1String(name);
+}
+
 void Tour::take_picture() {
     window_.bring_up_to_date();
     const std::string file =
         format("%s/%02d-%s.png", folder_.c_str(), ++number_, stops_.front().name.c_str());
     QPixmap picture(size_of_pictures);
     window_.render(&picture);
+    QPainter painter(&picture);
+    for (QWidget* const box : QApplication::topLevelWidgets()) {
+        if (box == &window_ || !box->isVisible() || !box->isModal()) continue;
+        painter.fillRect(picture.rect(), shade);
+        painter.drawPixmap(box->pos() - window_.pos(), box->grab());
+    }
+    painter.end();
     if (!picture.save(shown(file))) fail("cannot write " + file);
 }
 
 // Pages may have buttons of one name; the one that is seen is meant.
 void Tour::click(const char* name) {
-    for (auto* const button : window_.findChildren<QAbstractButton*>(QString::fromLatin1(name)))
+    for (auto* const button : front()->findChildren<QAbstractButton*>(QString::fromLatin1(name)))
         if (button->isVisible() && button->isEnabled()) return press_and_release(button);
     fail(std::string("no button to press: ") + name);
+}
+
+void Tour::select_first_row(const Section& section) {
+    auto* const table = window_.findChild<QAbstractItemView*>(shown(section.table->name()));
+    const QModelIndex first = table->model()->index(0, 0);
+    table->scrollTo(first);
+    press_and_release(table->viewport(), table->visualRect(first).center());
+}
+
+void Tour::close_dialog() {
+    QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+    QCoreApplication::sendEvent(front(), &escape);
+}
+
+void Tour::choose_file(const std::string& path) {
+    auto* const name = front()->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    auto* const buttons = front()->findChild<QDialogButtonBox*>();
+    if (!name || !buttons) return fail("no panel to choose a file in");
+    name->setText(shown(path));
+    press_and_release(buttons->button(QDialogButtonBox::Save));
 }
 
 void Tour::fail(const std::string& reason) {

@@ -108,7 +108,7 @@ void Velk_Window::closeEvent(QCloseEvent* event) {
     event->accept();
     if (std::exchange(closed_, true)) return;
     hide();
-    desktop_.drop_alerts();
+    desktop_.drop_boxes();
     // The screen learns that the window is gone before the document waits for the phone.
     QTimer::singleShot(0, this, [this] { document_.windowWillClose(); });
 }

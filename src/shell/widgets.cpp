@@ -2,7 +2,11 @@
 
 #include <QBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
+#include <QSignalBlocker>
+#include <QTextOption>
 #include <algorithm>
 #include <utility>
 
@@ -27,6 +31,20 @@ void bind_widget(Binding& binding, Outlet_Type& outlet, Widget* widget, Show sho
         // A widget that no layout holds yet would open as a window of its own.
         if (outlet.hidden() || widget->parentWidget()) widget->setHidden(outlet.hidden());
     });
+}
+
+/// Does not move the cursor of somebody who is typing.
+void show_in(QPlainTextEdit* edit, const QString& text) {
+    if (edit->toPlainText() == text) return;
+    const QSignalBlocker nobody_types(edit);
+    edit->setPlainText(text);
+}
+
+/// Each paragraph is set from the side its own letters start at.
+void let_paragraphs_choose_their_side(QPlainTextEdit* edit) {
+    QTextOption option = edit->document()->defaultTextOption();
+    option.setTextDirection(Qt::LayoutDirectionAuto);
+    edit->document()->setDefaultTextOption(option);
 }
 
 }  // namespace
@@ -69,6 +87,36 @@ void bind_image(Binding& binding, Image& outlet, Picture_View* image) {
     });
 }
 
+void bind_reading(Binding& binding, Label& outlet, QPlainTextEdit* edit) {
+    edit->setReadOnly(true);
+    edit->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    edit->setTabChangesFocus(true);
+    let_paragraphs_choose_their_side(edit);
+    bind_widget(binding, outlet, edit, [](const Label& from, QPlainTextEdit* to) {
+        show_in(to, shown(from.text()));
+        to->setAccessibleName(shown(from.text()));
+    });
+}
+
+void bind_field(Binding& binding, Text_Field& outlet, QLineEdit* edit) {
+    bind_widget(binding, outlet, edit, [](const Text_Field& from, QLineEdit* to) {
+        const QString text = shown(from.text());
+        if (text != to->text()) to->setText(text);
+    });
+    QObject::connect(edit, &QLineEdit::textEdited, edit,
+                     [&outlet](const QString& typed) { outlet.type(typed.toStdString()); });
+}
+
+void bind_field(Binding& binding, Text_Field& outlet, QPlainTextEdit* edit) {
+    edit->setTabChangesFocus(true);
+    let_paragraphs_choose_their_side(edit);
+    bind_widget(binding, outlet, edit, [](const Text_Field& from, QPlainTextEdit* to) {
+        show_in(to, shown(from.text()));
+    });
+    QObject::connect(edit, &QPlainTextEdit::textChanged, edit,
+                     [&outlet, edit] { outlet.type(edit->toPlainText().toStdString()); });
+}
+
 void make_quiet(QLabel* label) {
     label->setProperty("quiet", true);
 }
@@ -78,6 +126,22 @@ QLabel* quiet_caption(const QString& text) {
     make_quiet(label);
     label->setFont(scaled_font(0.85));
     return label;
+}
+
+QPushButton* command_button(const Command& command, Guards& guards, QWidget* parent) {
+    auto* const button = new QPushButton(shown(command.caption), parent);
+    button->setObjectName(shown(command.name));
+    button->setIcon(themed_icon(shown(command.icon)));
+    guards.connect_button(button, command.guard, command.run);
+    return button;
+}
+
+Text_Label* status_line(Binding& binding, Label& outlet, QWidget* parent) {
+    auto* const line = new Text_Label(parent);
+    line->set_sentence();
+    line->setAccessibleDescription(QStringLiteral("Status"));
+    bind_label(binding, outlet, line);
+    return line;
 }
 
 QPushButton* refresh_button(const Window_Parts& parts, std::function<void()> run) {

@@ -7,11 +7,14 @@
 
 #include "shell/binding.h"
 #include "shell/guards.h"
+#include "ui/command.h"
 #include "ui/outlets.h"
 
 class QAbstractButton;
 class QBoxLayout;
 class QLabel;
+class QLineEdit;
+class QPlainTextEdit;
 class QPushButton;
 class QWidget;
 
@@ -44,14 +47,25 @@ void bind_text(Binding& binding, Label& outlet, QLabel* label);
 void bind_button(Binding& binding, Button& outlet, QAbstractButton* button);
 void bind_gauge(Binding& binding, Level_Indicator& outlet, Level_Gauge* gauge);
 void bind_image(Binding& binding, Image& outlet, Picture_View* image);
+/// A text of any length, to be read. Its accessible name is the text, as a label's is.
+void bind_reading(Binding& binding, Label& outlet, QPlainTextEdit* edit);
+/// What a person types reaches the outlet at once.
+void bind_field(Binding& binding, Text_Field& outlet, QLineEdit* edit);
+void bind_field(Binding& binding, Text_Field& outlet, QPlainTextEdit* edit);
 
 /// A caption that never changes: small and quiet.
 QLabel* quiet_caption(const QString& text);
 /// Marks a label as less important than what stands beside it.
 void make_quiet(QLabel* label);
 
+/// The button of a command, without an icon where the command names none.
+QPushButton* command_button(const Command& command, Guards& guards, QWidget* parent);
+
 /// A Refresh button as every page of the connection has one; disabled during an attempt.
 QPushButton* refresh_button(const Window_Parts& parts, std::function<void()> run);
+
+/// The line in which a section or a dialog says how things stand.
+Text_Label* status_line(Binding& binding, Label& outlet, QWidget* parent);
 
 /// No margins, this much between the items.
 void set_tight(QBoxLayout* layout, int spacing);

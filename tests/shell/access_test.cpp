@@ -87,7 +87,9 @@ TEST_F(Access, start_page_beside_the_summary) {
 
 TEST_F(Access, contacts) {
     open.click("m_BT_Contacts");
-    check_page({"OnBT_Contacts_Refresh", "m_table_Contacts"});
+    check_page({"m_table_Contacts_search", "OnBT_AddContacts", "OnBT_ModifyContacts",
+                "OnBT_DeleteContacts", "OnBT_Contacts_DelAll", "OnBT_Contacts_Refresh",
+                "OnBT_ContactsExport", "OnBT_ContactsImport", "m_table_Contacts"});
     EXPECT_EQ(name_of(open.find("m_table_Contacts")), "Contacts");
     for (const char* status : {"m_LB_ps", "m_LB_Tips_Contacts"})
         EXPECT_EQ(open.find(status)->accessibleDescription(), "Status");

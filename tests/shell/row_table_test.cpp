@@ -124,13 +124,15 @@ TEST(Section_Page, runs_the_delete_command_by_its_key_only_while_it_may_run) {
     int runs = 0;
     Section section{.title = "Things",
                     .empty_text = "Things",
+                    .search_text = "Search things",
                     .table = &table,
                     .status = &status,
                     .commands = {{.name = "OnBT_Del",
                                   .caption = "Delete",
                                   .icon = "delete",
                                   .run = [&] { ++runs, guard = 0; },
-                                  .guard = &guard}}};
+                                  .guard = &guard,
+                                  .on_delete_key = true}}};
     Binding binding;
     Guards guards;
     Section_Page page(section, {*open.document, binding, guards});

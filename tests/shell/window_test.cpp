@@ -77,7 +77,7 @@ Open_Window::Open_Window() {
 }
 
 Open_Window::~Open_Window() {
-    desktop.drop_alerts();
+    desktop.drop_boxes();
     desktop.close_gate();
     EXPECT_TRUE(Worker::stop_all(std::chrono::seconds(10)));
     g_connected_adb = 0;

@@ -1,0 +1,56 @@
+#include "shell/detail_pane.h"
+
+#include <QPlainTextEdit>
+#include <QVBoxLayout>
+
+#include "shell/look.h"
+#include "shell/text_label.h"
+#include "shell/widgets.h"
+
+namespace velk {
+
+namespace {
+
+constexpr int least_width = 260;
+
+bool says_something(const Label* label) {
+    return label && !label->text().empty();
+}
+
+}  // namespace
+
+Detail_Pane::Detail_Pane(const Detail& detail, Binding& binding, QWidget* parent) : QFrame(parent) {
+    setProperty("class", "Card");
+    setMinimumWidth(least_width);
+    auto* const column = new QVBoxLayout(this);
+    column->setContentsMargins(space_between, space_between, small_space, small_space);
+    column->setSpacing(2);
+    if (detail.title) {
+        auto* const title = new Text_Label(this);
+        title->setFont(scaled_font(1.2, true));
+        bind_label(binding, *detail.title, title);
+        column->addWidget(title);
+    }
+    if (detail.subtitle) {
+        auto* const subtitle = new Text_Label(this);
+        make_quiet(subtitle);
+        bind_label(binding, *detail.subtitle, subtitle);
+        column->addWidget(subtitle);
+    }
+    auto* const text = new QPlainTextEdit(this);
+    text->setProperty("reading", true);
+    column->addSpacing(small_space);
+    column->addWidget(text, 1);
+    bind_reading(binding, *detail.text, text);
+    // An empty text of a selected row is not the same as no row.
+    const auto invite = [detail, text] {
+        const bool nothing = !says_something(detail.title) && !says_something(detail.subtitle) &&
+                             !says_something(detail.text);
+        text->setPlaceholderText(nothing ? shown(detail.empty_text) : QString());
+        if (text->accessibleName().isEmpty()) text->setAccessibleName(shown(detail.empty_text));
+    };
+    for (Label* const label : {detail.title, detail.subtitle, detail.text})
+        if (label) binding.bind(*label, text, invite);
+}
+
+}  // namespace velk

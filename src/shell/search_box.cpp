@@ -1,0 +1,67 @@
+#include "shell/search_box.h"
+
+#include <QAction>
+#include <QKeyEvent>
+#include <QShortcut>
+
+#include "shell/pictures.h"
+#include "shell/row_table.h"
+
+namespace velk {
+
+namespace {
+
+constexpr int least_width = 200;
+constexpr int most_width = 340;
+
+}  // namespace
+
+Search_Box::Search_Box(Row_Table& table, const QString& looks_for, QWidget* parent)
+    : QLineEdit(parent), table_(table) {
+    setObjectName(table.objectName() + QStringLiteral("_search"));
+    setAccessibleName(QStringLiteral("Search"));
+    setPlaceholderText(looks_for.isEmpty() ? QStringLiteral("Search") : looks_for);
+    setToolTip(QStringLiteral("Shows the rows with this text (Ctrl+F)"));
+    setMinimumWidth(least_width);
+    setMaximumWidth(most_width);
+    addAction(themed_icon(QStringLiteral("search"), Ink::muted), LeadingPosition);
+    auto* const clear =
+        addAction(themed_icon(QStringLiteral("clear"), Ink::muted), TrailingPosition);
+    clear->setToolTip(QStringLiteral("Clear"));
+    clear->setVisible(false);
+    connect(clear, &QAction::triggered, this, &QLineEdit::clear);
+    connect(this, &QLineEdit::textChanged, &table, [&table, clear](const QString& typed) {
+        clear->setVisible(!typed.isEmpty());
+        table.search(typed);
+    });
+    // A page that is not shown does not listen.
+    connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, this, [this] {
+        setFocus(Qt::ShortcutFocusReason);
+        selectAll();
+    });
+}
+
+void Search_Box::lead_into_the_table() {
+    table_.setFocus(Qt::OtherFocusReason);
+    if (!table_.currentIndex().isValid()) table_.selectRow(0);
+}
+
+void Search_Box::keyPressEvent(QKeyEvent* event) {
+    switch (event->key()) {
+        case Qt::Key_Escape:
+            // What is empty has nothing to end: the key is the dialog's then, if there is one.
+            event->setAccepted(!text().isEmpty());
+            clear();
+            table_.setFocus(Qt::OtherFocusReason);
+            break;
+        case Qt::Key_Down:
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            lead_into_the_table();
+            break;
+        default:
+            QLineEdit::keyPressEvent(event);
+    }
+}
+
+}  // namespace velk
