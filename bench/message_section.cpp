@@ -16,6 +16,7 @@
 #include <thread>
 
 #include "agent/channel.h"
+#include "base/trace.h"
 #include "managers/sms_tablesource.h"
 #include "pulse.h"
 #include "session/main_document.h"

@@ -1,6 +1,7 @@
 // Tables without a window: rows with named fields, and the table outlet that shows them.
 #pragma once
 
+#include <deque>
 #include <functional>
 #include <string>
 #include <vector>
@@ -98,8 +99,7 @@ class Row_List : public Table_Rows {
         cells.reserve(rows_.size());
         for (const Row& row : rows_) cells.push_back(row.*field(column));
         const Comparison comparison = columns_[static_cast<std::size_t>(column)].comparison;
-        std::vector<Row> sorted;
-        sorted.reserve(rows_.size());
+        std::deque<Row> sorted;
         for (const int old_place : sorted_order(cells, comparison, ascending))
             sorted.push_back(std::move(rows_[static_cast<std::size_t>(old_place)]));
         rows_ = std::move(sorted);
@@ -110,7 +110,7 @@ class Row_List : public Table_Rows {
         return Row::row_columns()[static_cast<std::size_t>(column)].field;
     }
 
-    std::vector<Row> rows_;
+    std::deque<Row> rows_;  // which grows without moving what is there
     int clears_ = 0;
     std::vector<Column> columns_;
 };
