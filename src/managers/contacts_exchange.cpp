@@ -42,12 +42,6 @@ std::string with_home(const std::string& path) {
 
 }  // namespace
 
-std::vector<Contacts_TableSource_Column> Contacts_TableSource::rows_on_the_screen() {
-    return desktop().ask([this] {
-        return std::vector<Contacts_TableSource_Column>(table_rows.begin(), table_rows.end());
-    });
-}
-
 // --- export ---
 
 void Contacts_TableSource::OnBT_ContactsExport() {
@@ -68,7 +62,7 @@ std::string Contacts_TableSource::get_save_fullpath(const std::string& extension
 bool Contacts_TableSource::save_to_html(const std::string& path) {
     const Busy_Note note = busy("Exporting contacts");
     std::vector<Page_Contact> contacts;
-    for (const auto& row : rows_on_the_screen())
+    for (const auto& row : rows_on_the_screen(table_rows))
         contacts.push_back({row.col_no, row.col_name, row.col_phone_number});
     const std::string reason = save_page(path, "Contacts", contacts_data(contacts));
     if (!path.empty()) post([this, reason] { quiet.tell_reason(reason); });
@@ -146,7 +140,7 @@ bool Contacts_TableSource::import_rows(std::string_view rows) {
 
 bool Contacts_TableSource::save_xml(const std::string& path) {
     std::vector<Listed_Contact> contacts;
-    for (const auto& row : rows_on_the_screen())
+    for (const auto& row : rows_on_the_screen(table_rows))
         contacts.push_back({row.col_id, row.col_name, row.col_phone_number});
     return save_text(with_home(path), property_list_of(contacts)).empty();
 }

@@ -90,8 +90,7 @@ void Contacts_TableSource::ContactsLoad() {
 }
 
 void Contacts_TableSource::reload_after_a_change() {
-    list_is_old_ = !g_can_click_contacts_load;
-    if (list_is_old_) g_table_contacts_need_refresh = 1;
+    phone_was_changed(g_can_click_contacts_load, g_table_contacts_need_refresh);
     OnBT_Contacts_Refresh();
 }
 

@@ -88,7 +88,6 @@ class Contacts_TableSource : public Table_Source {
     void thread_do_read_xml(const std::string& path);
     /// Adds the page's contacts to the phone; false when there is none.
     bool import_rows(std::string_view rows);
-    std::vector<Contacts_TableSource_Column> rows_on_the_screen();
     /// Adds on the phone, then in the table.
     void Contacts_Add_One(const std::string& name, const std::string& Tel_PhoneNumber);
     /// Gives the id that the phone gave, empty when it gave none.
@@ -101,7 +100,6 @@ class Contacts_TableSource : public Table_Source {
 
     std::unique_ptr<velk::Contacts_Add> add_dialog_;    // made when first needed
     std::unique_ptr<velk::Contacts_Edit> edit_dialog_;  // the same
-    bool list_is_old_ = false;  // the phone was changed while the load under way runs
 };
 
 }  // namespace velk

@@ -52,7 +52,7 @@ void SMS_TableSource::SMSDeleteAll() {
 
 void SMS_TableSource::sms_delete_all() {
     Busy_Note note = busy("Deleting");
-    const std::vector<SMS_TableSource_Column> rows = rows_on_the_screen();
+    const auto rows = rows_on_the_screen(table_rows);
     for (std::size_t i = 0; i < rows.size() && !desktop().closing(); ++i) {
         note.say(format("Deleting %zu of %zu", i + 1, rows.size()));
         delete_one(rows[i]);
@@ -61,6 +61,8 @@ void SMS_TableSource::sms_delete_all() {
         table_rows.clear();
         m_table.reload();
         m_LB_sms_content.set_text("");
+        // No load follows; one that is under way has lost its table.
+        phone_was_changed(g_can_click_sms_load, g_table_sms_need_refresh);
     });
 }
 
@@ -83,10 +85,6 @@ void SMS_TableSource::OnBT_SendSMS() {
 
 // --- export ---------------------------------------------------------------------------------
 
-std::vector<SMS_TableSource_Column> SMS_TableSource::rows_on_the_screen() {
-    return desktop().ask([this] { return std::vector(table_rows.begin(), table_rows.end()); });
-}
-
 void SMS_TableSource::OnBT_Export_SMS() {
     run_command(desktop(), "export messages", [this] {
         const std::string path = get_save_fullpath(File_Extension);
@@ -102,12 +100,13 @@ std::string SMS_TableSource::get_save_fullpath(const std::string& extension) {
 
 bool SMS_TableSource::save_to_html(const std::string& path) {
     const Busy_Note note = busy("Exporting messages");
-    return tell_saved(path, save_page(path, "Messages", sms_page_data(rows_on_the_screen())));
+    return tell_saved(path,
+                      save_page(path, "Messages", sms_page_data(rows_on_the_screen(table_rows))));
 }
 
 bool SMS_TableSource::save_to_txt(const std::string& path) {
     const std::string now = often_tools_function::get_current_date_time();
-    return tell_saved(path, save_text(path, sms_plain_text(rows_on_the_screen(), now)));
+    return tell_saved(path, save_text(path, sms_plain_text(rows_on_the_screen(table_rows), now)));
 }
 
 bool SMS_TableSource::tell_saved(const std::string& path, const std::string& reason) {

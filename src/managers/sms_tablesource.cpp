@@ -79,8 +79,7 @@ void SMS_TableSource::SMSLoad() {
 }
 
 void SMS_TableSource::reload_after_a_change() {
-    list_is_old_ = !g_can_click_sms_load;
-    if (list_is_old_) g_table_sms_need_refresh = 1;
+    phone_was_changed(g_can_click_sms_load, g_table_sms_need_refresh);
     OnBT_Refresh();
 }
 

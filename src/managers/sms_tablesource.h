@@ -4,7 +4,6 @@
 
 #include <memory>
 #include <string>
-#include <vector>
 
 #include "managers/sms_rows.h"
 #include "managers/sms_send.h"
@@ -69,8 +68,6 @@ class SMS_TableSource : public Table_Source {
     void sms_delete_all();
     /// Deletes the row's message on the phone and tells what became of it.
     void delete_one(const SMS_TableSource_Column& row);
-    /// The rows as they stand on the screen.
-    std::vector<SMS_TableSource_Column> rows_on_the_screen();
     /// Puts the reason of a failed export into the quiet line; false when there is one.
     bool tell_saved(const std::string& path, const std::string& reason);
     void post_status(std::string text);
@@ -79,7 +76,6 @@ class SMS_TableSource : public Table_Source {
     void reload_after_a_change();
 
     std::unique_ptr<SMS_Send> composer_;
-    bool list_is_old_ = false;  // the phone was changed while the load under way runs
 };
 
 }  // namespace velk

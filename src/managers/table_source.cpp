@@ -24,6 +24,11 @@ void Table_Source::ask_person(const std::string& question, std::function<void()>
     });
 }
 
+void Table_Source::phone_was_changed(Flag may_load, Flag& needs_refresh) {
+    list_is_old_ = !may_load;
+    if (list_is_old_) needs_refresh = 1;
+}
+
 bool Table_Source::person_agrees(const std::string& question) {
     return desktop().run_alert(yes_or_no(question)) == yes;
 }

@@ -38,6 +38,11 @@ class Table_Source {
     /// Asks with "Yes" and "No"; `agreed` runs behind "Yes".
     void ask_person(const std::string& question, std::function<void()> agreed);
 
+    /// Behind a change of the phone's list: a load under way (`may_load` is 0) may have missed it.
+    /// Then what it brings counts as old, and `needs_refresh` is set.
+    void phone_was_changed(Flag may_load, Flag& needs_refresh);
+    bool list_is_old_ = false;  // the phone was changed while the load under way runs
+
     // --- workers only ---
 
     void post(Desktop::Closure change) { desktop().post(std::move(change)); }
@@ -45,6 +50,12 @@ class Table_Source {
     bool person_agrees(const std::string& question);
     /// Says what is waited for, until it goes.
     Busy_Note busy(std::string text) { return {desktop(), window_.busy_line(), std::move(text)}; }
+
+    /// The rows in their order on the screen.
+    template <class Row>
+    std::vector<Row> rows_on_the_screen(const Row_List<Row>& rows) {
+        return desktop().ask([&rows] { return std::vector<Row>(rows.begin(), rows.end()); });
+    }
 
     /// Calls `delete_one` for every row that is selected now, in ascending order, whatever becomes
     /// of each, then takes them all out of the table. Beeps, and gives false, when none is.
