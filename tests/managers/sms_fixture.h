@@ -23,7 +23,6 @@ class SMS_Test : public Manager_Test {
         finish();
         recorder.clear();
     }
-    const std::string& status() const { return sms.m_LB_TIPS.text(); }
 
     SMS_TableSource sms{window};
 };
