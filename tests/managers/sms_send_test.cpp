@@ -49,7 +49,8 @@ TEST_F(SMS_Composer, refuses_what_it_cannot_send_and_counts_in_utf16_units) {
     EXPECT_EQ(tips(), "Please select contacts or enter phone number!");
     EXPECT_THAT(send("9;", ""), ElementsAre());
     EXPECT_EQ(tips(), "Please enter sms contents!");
-    const std::string longest = std::string(138, 'x') + "\xF0\x9F\x98\x80";
+    std::string longest(138, 'x');
+    longest += "\xF0\x9F\x98\x80";
     EXPECT_THAT(send("9;", longest + "y"), ElementsAre());
     EXPECT_EQ(tips(), "141 characters > 140 character,please less character to 140 characters.");
     composer.m_ET_SMS_Content.type(longest);
@@ -71,7 +72,9 @@ TEST_F(SMS_Composer, reads_typed_numbers_up_to_the_first_empty_piece) {
         composer.m_contacts.clear();
         EXPECT_EQ(send(typed, "hi"), expected) << typed;
     }
-    EXPECT_EQ(edits()[0], "2\0\x0C\0\0\0\x08\0\0\0"s + "9999*|hi");
+    EXPECT_EQ(edits()[0],
+              "2\0\x0C\0\0\0\x08\0\0\0"
+              "9999*|hi"s);
 }
 
 TEST_F(SMS_Composer, sends_to_the_picked_who_still_stand_in_the_field) {
