@@ -62,7 +62,7 @@ std::string Contacts_TableSource::get_save_fullpath(const std::string& extension
 bool Contacts_TableSource::save_to_html(const std::string& path) {
     const Busy_Note note = busy("Exporting contacts");
     std::vector<Page_Contact> contacts;
-    for (const auto& row : rows_on_the_screen(table_rows))
+    for (const auto& row : rows_on_the_screen(table_rows, m_table))
         contacts.push_back({row.col_no, row.col_name, row.col_phone_number});
     const std::string reason = save_page(path, "Contacts", contacts_data(contacts));
     if (!path.empty()) post([this, reason] { quiet.tell_reason(reason); });
@@ -140,7 +140,7 @@ bool Contacts_TableSource::import_rows(std::string_view rows) {
 
 bool Contacts_TableSource::save_xml(const std::string& path) {
     std::vector<Listed_Contact> contacts;
-    for (const auto& row : rows_on_the_screen(table_rows))
+    for (const auto& row : rows_on_the_screen(table_rows, m_table))
         contacts.push_back({row.col_id, row.col_name, row.col_phone_number});
     return save_text(with_home(path), property_list_of(contacts)).empty();
 }

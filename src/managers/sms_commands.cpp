@@ -52,7 +52,7 @@ void SMS_TableSource::SMSDeleteAll() {
 
 void SMS_TableSource::sms_delete_all() {
     Busy_Note note = busy("Deleting");
-    const auto rows = rows_on_the_screen(table_rows);
+    const auto rows = rows_on_the_screen(table_rows, m_table);
     for (std::size_t i = 0; i < rows.size() && !desktop().closing(); ++i) {
         note.say(format("Deleting %zu of %zu", i + 1, rows.size()));
         delete_one(rows[i]);
@@ -101,12 +101,12 @@ std::string SMS_TableSource::get_save_fullpath(const std::string& extension) {
 bool SMS_TableSource::save_to_html(const std::string& path) {
     const Busy_Note note = busy("Exporting messages");
     return tell_saved(path,
-                      save_page(path, "Messages", sms_page_data(rows_on_the_screen(table_rows))));
+                      save_page(path, "Messages", sms_page_data(rows_on_the_screen(table_rows, m_table))));
 }
 
 bool SMS_TableSource::save_to_txt(const std::string& path) {
     const std::string now = often_tools_function::get_current_date_time();
-    return tell_saved(path, save_text(path, sms_plain_text(rows_on_the_screen(table_rows), now)));
+    return tell_saved(path, save_text(path, sms_plain_text(rows_on_the_screen(table_rows, m_table), now)));
 }
 
 bool SMS_TableSource::tell_saved(const std::string& path, const std::string& reason) {

@@ -1,6 +1,7 @@
 // What the managers of all sections have in common.
 #pragma once
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -53,9 +54,7 @@ class Table_Source {
 
     /// The rows in their order on the screen.
     template <class Row>
-    std::vector<Row> rows_on_the_screen(const Row_List<Row>& rows) {
-        return desktop().ask([&rows] { return std::vector<Row>(rows.begin(), rows.end()); });
-    }
+    std::vector<Row> rows_on_the_screen(const Row_List<Row>& rows, const Table& table);
 
     /// Calls `delete_one` for every row that is selected now, in ascending order, whatever becomes
     /// of each, then takes them all out of the table. Beeps, and gives false, when none is.
@@ -64,6 +63,26 @@ class Table_Source {
 
     Main_Window& window_;
 };
+
+/// In slices that the window does not feel, and from the start again when the table was reloaded or
+/// sorted between two of them.
+template <class Row>
+std::vector<Row> Table_Source::rows_on_the_screen(const Row_List<Row>& rows, const Table& table) {
+    constexpr std::size_t slice = 2000;
+    std::vector<Row> taken;
+    int reloads = -1;
+    const auto take_slice = [&] {
+        if (reloads != table.reloads()) taken.clear();
+        reloads = table.reloads();
+        taken.reserve(rows.size());
+        const std::size_t end = std::min(taken.size() + slice, rows.size());
+        while (taken.size() < end) taken.push_back(rows[taken.size()]);
+        return end < rows.size();
+    };
+    while (desktop().ask(take_slice)) {
+    }
+    return taken;
+}
 
 template <class Row, class Delete_One>
 bool Table_Source::delete_selected(Row_List<Row>& rows, Table& table, Delete_One delete_one) {
