@@ -1,6 +1,6 @@
 #include "shell/detail_pane.h"
 
-#include <QPlainTextEdit>
+#include <QTextEdit>
 #include <QVBoxLayout>
 
 #include "shell/look.h"
@@ -12,6 +12,7 @@ namespace velk {
 namespace {
 
 constexpr int least_width = 260;
+constexpr int room_of_the_frame = 11;  // the text has a frame of 5, and begins where its title does
 
 bool says_something(const Label* label) {
     return label && !label->text().empty();
@@ -23,23 +24,27 @@ Detail_Pane::Detail_Pane(const Detail& detail, Binding& binding, QWidget* parent
     setProperty("class", "Card");
     setMinimumWidth(least_width);
     auto* const column = new QVBoxLayout(this);
-    column->setContentsMargins(space_between, space_between, small_space, small_space);
-    column->setSpacing(2);
+    column->setContentsMargins(room_of_the_frame, space_between, small_space, small_space);
+    column->setSpacing(small_space);
+    auto* const heading = new QVBoxLayout;
+    heading->setContentsMargins(space_between - room_of_the_frame, 0, 0, 0);
+    heading->setSpacing(2);
+    column->addLayout(heading);
     if (detail.title) {
         auto* const title = new Text_Label(this);
         title->setFont(scaled_font(1.2, true));
         bind_label(binding, *detail.title, title);
-        column->addWidget(title);
+        heading->addWidget(title);
     }
     if (detail.subtitle) {
         auto* const subtitle = new Text_Label(this);
         make_quiet(subtitle);
         bind_label(binding, *detail.subtitle, subtitle);
-        column->addWidget(subtitle);
+        heading->addWidget(subtitle);
     }
-    auto* const text = new QPlainTextEdit(this);
+    auto* const text = new QTextEdit(this);
     text->setProperty("reading", true);
-    column->addSpacing(small_space);
+    text->document()->setDocumentMargin(0);
     column->addWidget(text, 1);
     bind_reading(binding, *detail.text, text);
     // An empty text of a selected row is not the same as no row.

@@ -4,8 +4,8 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTextEdit>
 #include <utility>
 
 #include "shell/row_table.h"
@@ -86,7 +86,7 @@ QWidget* Dialog_Window::control_of(const Dialog_Field& field) {
         focus_first(edit);
         return edit;
     }
-    auto* const edit = new QPlainTextEdit(this);
+    auto* const edit = new QTextEdit(this);
     edit->setMinimumHeight(lines_of_a_message * fontMetrics().lineSpacing() + large_space);
     bind_field(binding_, *field.takes, edit);
     focus_first(edit);

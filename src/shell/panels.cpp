@@ -14,6 +14,8 @@ namespace velk {
 
 namespace {
 
+constexpr QSize first_size{760, 500};
+
 QMessageBox::Icon icon_of(Alert_Style style) {
     return style == Alert_Style::warning ? QMessageBox::Warning : QMessageBox::Information;
 }
@@ -31,6 +33,7 @@ class File_Box : public QFileDialog {
         : QFileDialog(front, panel.sheet ? Qt::Sheet : Qt::Dialog), panel_(panel) {
         setAttribute(Qt::WA_DeleteOnClose);
         setOptions(DontUseNativeDialog | DontConfirmOverwrite);
+        resize(first_size);
         setFileMode(mode_of(panel));
         setOption(ShowDirsOnly, !panel.files);
         setAcceptMode(panel.kind == File_Panel::Kind::save ? AcceptSave : AcceptOpen);

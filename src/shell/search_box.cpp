@@ -13,6 +13,7 @@ namespace {
 
 constexpr int least_width = 200;
 constexpr int most_width = 340;
+constexpr int less_space_behind_the_icon = -5;
 
 }  // namespace
 
@@ -25,6 +26,7 @@ Search_Box::Search_Box(Row_Table& table, const QString& looks_for, QWidget* pare
     setMinimumWidth(least_width);
     setMaximumWidth(most_width);
     addAction(themed_icon(QStringLiteral("search"), Ink::muted), LeadingPosition);
+    setTextMargins(less_space_behind_the_icon, 0, 0, 0);
     auto* const clear =
         addAction(themed_icon(QStringLiteral("clear"), Ink::muted), TrailingPosition);
     clear->setToolTip(QStringLiteral("Clear"));

@@ -3,10 +3,9 @@
 #include <QBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSignalBlocker>
-#include <QTextOption>
+#include <QTextEdit>
 #include <algorithm>
 #include <utility>
 
@@ -34,17 +33,10 @@ void bind_widget(Binding& binding, Outlet_Type& outlet, Widget* widget, Show sho
 }
 
 /// Does not move the cursor of somebody who is typing.
-void show_in(QPlainTextEdit* edit, const QString& text) {
+void show_in(QTextEdit* edit, const QString& text) {
     if (edit->toPlainText() == text) return;
     const QSignalBlocker nobody_types(edit);
     edit->setPlainText(text);
-}
-
-/// Each paragraph is set from the side its own letters start at.
-void let_paragraphs_choose_their_side(QPlainTextEdit* edit) {
-    QTextOption option = edit->document()->defaultTextOption();
-    option.setTextDirection(Qt::LayoutDirectionAuto);
-    edit->document()->setDefaultTextOption(option);
 }
 
 }  // namespace
@@ -87,12 +79,11 @@ void bind_image(Binding& binding, Image& outlet, Picture_View* image) {
     });
 }
 
-void bind_reading(Binding& binding, Label& outlet, QPlainTextEdit* edit) {
+void bind_reading(Binding& binding, Label& outlet, QTextEdit* edit) {
     edit->setReadOnly(true);
     edit->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     edit->setTabChangesFocus(true);
-    let_paragraphs_choose_their_side(edit);
-    bind_widget(binding, outlet, edit, [](const Label& from, QPlainTextEdit* to) {
+    bind_widget(binding, outlet, edit, [](const Label& from, QTextEdit* to) {
         show_in(to, shown(from.text()));
         to->setAccessibleName(shown(from.text()));
     });
@@ -107,13 +98,12 @@ void bind_field(Binding& binding, Text_Field& outlet, QLineEdit* edit) {
                      [&outlet](const QString& typed) { outlet.type(typed.toStdString()); });
 }
 
-void bind_field(Binding& binding, Text_Field& outlet, QPlainTextEdit* edit) {
+void bind_field(Binding& binding, Text_Field& outlet, QTextEdit* edit) {
+    edit->setAcceptRichText(false);
     edit->setTabChangesFocus(true);
-    let_paragraphs_choose_their_side(edit);
-    bind_widget(binding, outlet, edit, [](const Text_Field& from, QPlainTextEdit* to) {
-        show_in(to, shown(from.text()));
-    });
-    QObject::connect(edit, &QPlainTextEdit::textChanged, edit,
+    bind_widget(binding, outlet, edit,
+                [](const Text_Field& from, QTextEdit* to) { show_in(to, shown(from.text())); });
+    QObject::connect(edit, &QTextEdit::textChanged, edit,
                      [&outlet, edit] { outlet.type(edit->toPlainText().toStdString()); });
 }
 

@@ -14,8 +14,8 @@ class QAbstractButton;
 class QBoxLayout;
 class QLabel;
 class QLineEdit;
-class QPlainTextEdit;
 class QPushButton;
+class QTextEdit;
 class QWidget;
 
 namespace velk {
@@ -48,10 +48,10 @@ void bind_button(Binding& binding, Button& outlet, QAbstractButton* button);
 void bind_gauge(Binding& binding, Level_Indicator& outlet, Level_Gauge* gauge);
 void bind_image(Binding& binding, Image& outlet, Picture_View* image);
 /// A text of any length, to be read. Its accessible name is the text, as a label's is.
-void bind_reading(Binding& binding, Label& outlet, QPlainTextEdit* edit);
+void bind_reading(Binding& binding, Label& outlet, QTextEdit* edit);
 /// What a person types reaches the outlet at once.
 void bind_field(Binding& binding, Text_Field& outlet, QLineEdit* edit);
-void bind_field(Binding& binding, Text_Field& outlet, QPlainTextEdit* edit);
+void bind_field(Binding& binding, Text_Field& outlet, QTextEdit* edit);
 
 /// A caption that never changes: small and quiet.
 QLabel* quiet_caption(const QString& text);

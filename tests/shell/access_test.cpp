@@ -53,8 +53,11 @@ class Access : public testing::Test {
     void nothing_is_clipped() {
         for (auto* const widget : open.window->findChildren<QWidget*>()) {
             const auto* const label = qobject_cast<QLabel*>(widget);
-            const bool has_text = label ? !label->text().isEmpty()
-                                        : qobject_cast<QAbstractButton*>(widget) != nullptr;
+            const auto* const button = qobject_cast<QAbstractButton*>(widget);
+            const bool has_text = !(label    ? label->text()
+                                    : button ? button->text()
+                                             : QString())
+                                       .isEmpty();
             if (!widget->isVisible() || !has_text || qobject_cast<Text_Label*>(widget)) continue;
             const int width = widget->width();
             const int needed = widget->hasHeightForWidth() ? widget->heightForWidth(width)
