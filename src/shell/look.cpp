@@ -102,7 +102,17 @@ Look_Keeper::Look_Keeper() {
     qApp->installEventFilter(this);
 }
 
+// What stands in an empty field is no business of the style sheet.
+void Look_Keeper::colour_placeholders() {
+    QPalette palette = QGuiApplication::palette();
+    const QColor muted = Look::of(palette).muted;
+    if (palette.color(QPalette::PlaceholderText) == muted) return;
+    palette.setColor(QPalette::PlaceholderText, muted);
+    QApplication::setPalette(palette);
+}
+
 void Look_Keeper::dress() {
+    colour_placeholders();
     QFile file(QStringLiteral(":/velk.qss"));
     if (!file.open(QIODevice::ReadOnly)) return;
     const QString sheet = Look::now().fill_in(QString::fromUtf8(file.readAll()));

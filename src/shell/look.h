@@ -42,6 +42,7 @@ class Look_Keeper : public QObject {
 
   private:
     void dress();
+    static void colour_placeholders();
 };
 
 /// The system font, larger or smaller, perhaps bold.

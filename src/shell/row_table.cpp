@@ -128,7 +128,7 @@ std::vector<int> Row_Table::selected_row_numbers() const {
 }
 
 void Row_Table::report_selection() {
-    if (restoring_) return;
+    if (by_itself_) return;
     model_->catch_up();  // a selection of rows that are gone is none
     std::vector<int> rows = selected_row_numbers();
     const int current = currentIndex().row();
@@ -154,11 +154,11 @@ void Row_Table::restore_selection() {
     }
     const int last = table_.selected_row();
     const int current = last == none ? none : model_->view_row(last);
-    restoring_ = true;
+    by_itself_ = true;
     selectionModel()->select(ranges, QItemSelectionModel::ClearAndSelect);
     if (current != none)
         selectionModel()->setCurrentIndex(model_->index(current, 0), QItemSelectionModel::NoUpdate);
-    restoring_ = false;
+    by_itself_ = false;
     table_.select(std::move(kept), current == none ? none : last);
 }
 
@@ -198,6 +198,13 @@ void Row_Table::keyPressEvent(QKeyEvent* event) {
         copy_selection();
     else
         QTableView::keyPressEvent(event);
+}
+
+// The toolkit points at the first row when none is pointed at; that selects nothing.
+void Row_Table::focusInEvent(QFocusEvent* event) {
+    by_itself_ = true;
+    QTableView::focusInEvent(event);
+    by_itself_ = false;
 }
 
 void Row_Table::paintEvent(QPaintEvent* event) {

@@ -25,6 +25,7 @@ class Row_Table : public QTableView {
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
   private:
@@ -46,7 +47,7 @@ class Row_Table : public QTableView {
     int scrolls_ = 0;
     int sorted_column_ = none;  // which a click has sorted, while no other rows have come
     bool ascending_ = false;
-    bool restoring_ = false;  // what changes in the selection now is none of the person's doing
+    bool by_itself_ = false;  // what changes in the selection now is none of the person's doing
 };
 
 }  // namespace velk

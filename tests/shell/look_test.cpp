@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QFile>
 
 #include "window_test.h"
 
@@ -52,20 +51,13 @@ TEST(Look, keeps_every_text_readable_whatever_the_desktops_colours) {
     }
 }
 
-TEST(Look, leaves_no_place_of_the_style_sheet_unfilled) {
-    test_application();
-    QFile file(":/velk.qss");
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    EXPECT_FALSE(Look::now().fill_in(QString::fromUtf8(file.readAll())).contains('@'));
-}
-
 TEST(Look, follows_the_desktop_when_its_colours_change) {
     test_application();
     QApplication::setPalette(dark_palette());
     const QString dark = qApp->styleSheet();
     QApplication::setPalette(light_palette());
     EXPECT_NE(dark, qApp->styleSheet());
-    EXPECT_FALSE(qApp->styleSheet().isEmpty());
+    EXPECT_FALSE(qApp->styleSheet().contains('@')) << "a colour that has no name";
 }
 
 }  // namespace

@@ -20,13 +20,6 @@ TEST(Options, are_read_in_any_order) {
     EXPECT_FALSE(options.wrong);
 }
 
-TEST(Options, start_nothing_by_themselves) {
-    const Options options = parsed({"velk"});
-    EXPECT_FALSE(options.connect);
-    EXPECT_EQ(options.tour, "");
-    EXPECT_FALSE(options.wrong);
-}
-
 TEST(Options, that_cannot_be_followed_end_the_program_with_a_reason) {
     for (const Arguments& arguments :
          {Arguments{"velk", "--conect"}, Arguments{"velk", "file"}, Arguments{"velk", "--tour"}}) {
@@ -45,8 +38,6 @@ TEST(Options, for_help_and_version_are_answered_wherever_they_stand) {
         EXPECT_EQ(answer->status, 0);
         EXPECT_NE(answer->text.find("elk"), std::string::npos);
     }
-    const Arguments arguments = {"velk", "--connect"};
-    EXPECT_FALSE(answer_without_display(2, arguments.data()));
 }
 
 }  // namespace

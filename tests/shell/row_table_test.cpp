@@ -42,6 +42,16 @@ class Row_Table_Test : public testing::Test {
         QTest::mouseClick(header->viewport(), Qt::LeftButton, Qt::NoModifier,
                           QPoint(header->sectionViewportPosition(column) + 20, 8));
     }
+    void search(const char* typed) {
+        QTest::keyClick(view, Qt::Key_F, Qt::ControlModifier);
+        QTest::keyClicks(open.window->focusWidget(), typed);
+    }
+    std::string seen() const {
+        QStringList all;
+        for (int row = 0; row < view->model()->rowCount(); ++row)
+            all << view->model()->index(row, 2).data().toString();
+        return all.join(' ').toStdString();
+    }
     std::string names() const {
         std::string all;
         for (const auto& row : contacts.table_rows) all += row.col_name + " ";
@@ -87,6 +97,55 @@ TEST_F(Row_Table_Test, sorts_the_rows_themselves_and_nothing_that_comes_later) {
     EXPECT_EQ(names(), "Cäsar Berta Adam Aaron ");
     EXPECT_FALSE(view->horizontalHeader()->isSortIndicatorShown());
     EXPECT_EQ(view->model()->index(3, 2).data().toString(), "Aaron");
+}
+
+TEST_F(Row_Table_Test, shows_what_is_searched_for_and_leaves_the_rows_as_they_are) {
+    search("CAS");
+    EXPECT_EQ(seen(), "Cäsar");
+    append("Casimir");
+    append("Dora");
+    open.turn();
+    EXPECT_EQ(seen(), "Cäsar Casimir");
+    QTest::keyClick(view, Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(contacts.m_table.selected_rows(), (std::vector<int>{2, 3}));
+    click_header(2);
+    click_header(2);
+    EXPECT_EQ(seen(), "Cäsar Casimir");
+    EXPECT_EQ(names(), "Dora Cäsar Casimir Berta Adam ");
+    click_cell(1);
+    EXPECT_EQ(contacts.selected_row, 2);
+    search("93");  // an id is no text
+    EXPECT_EQ(seen(), "");
+    QTest::keyClick(open.window->focusWidget(), Qt::Key_Escape);
+    EXPECT_EQ(seen(), "Dora Cäsar Casimir Berta Adam");
+    EXPECT_TRUE(view->hasFocus());
+}
+
+TEST_F(Row_Table_Test, has_no_selected_row_once_a_search_hides_the_one_selected_last) {
+    click_cell(0);
+    click_cell(1, Qt::ControlModifier);
+    search("b");
+    EXPECT_EQ(contacts.selected_row, -1);
+    EXPECT_EQ(contacts.m_table.selected_rows(), std::vector<int>{0});
+    QTest::keyClick(open.window->focusWidget(), Qt::Key_Escape);
+    EXPECT_EQ(contacts.selected_row, -1);
+    click_cell(2);
+    search("555-3");
+    EXPECT_EQ(contacts.selected_row, 2);
+}
+
+TEST_F(Row_Table_Test, keeps_the_selection_when_only_texts_change) {
+    click_cell(1);
+    contacts.table_rows[1].col_name = "Zora";
+    contacts.m_table.reload_texts();
+    open.turn();
+    EXPECT_EQ(contacts.selected_row, 1);
+    EXPECT_EQ(seen(), "Berta Zora Cäsar");
+    search("zora");
+    contacts.table_rows[1].col_name = "Adam";
+    contacts.m_table.reload_texts();
+    open.turn();
+    EXPECT_EQ(contacts.selected_row, -1);
 }
 
 TEST_F(Row_Table_Test, copies_the_selected_cells_as_lines_with_tabs) {

@@ -84,6 +84,44 @@ TEST_F(Table_Model_Test, writes_an_edited_cell_into_its_field_behind_hidden_colu
     EXPECT_EQ(rows[0].name, "name");
 }
 
+TEST_F(Table_Model_Test, takes_in_what_comes_while_something_is_searched_for) {
+    append(2);
+    rows.push_back({"2", "hidden", "Zoë"});
+    model.search(Search_Term("zoe"));
+    append(1);
+    rows.push_back({"4", "hidden", "ZOË"});
+    model.catch_up();
+    ASSERT_EQ(model.rowCount(), 2);
+    EXPECT_EQ(model.index(1, 0).data(), "4");
+    EXPECT_TRUE(model.setData(model.index(0, 1), "Zoe", Qt::EditRole));
+    EXPECT_EQ(rows[2].name, "Zoe");
+    rows.clear();
+    EXPECT_FALSE(model.data(model.index(0, 0), Qt::DisplayRole).isValid());
+    append(4);
+    table.reload();
+    model.catch_up();
+    EXPECT_EQ(model.rowCount(), 0);
+    model.search({});
+    EXPECT_EQ(model.rowCount(), 4);
+}
+
+TEST(Search_Term, finds_letters_whatever_their_case_and_accents) {
+    const struct {
+        const char *typed, *text;
+        bool found;
+    } cases[] = {{" LINDQ ", "Ada Lindqvist", true},
+                 {"jose nunez", "José Ñuñez", true},
+                 {"Ñ", "nunez", true},
+                 {"петр", "Анна ПЕТРОВА", true},
+                 {"ö", "o\u0308", true},
+                 {"محمد", "مُحَمَّد", true},
+                 {"ok", "\U0001F642 ok \xff", true},
+                 {"adam", "Ada|m", false},
+                 {"小雨", "林小雪", false}};
+    for (const auto& [typed, text, found] : cases)
+        EXPECT_EQ(Search_Term(QString::fromUtf8(typed)).is_in(text), found) << typed;
+}
+
 TEST_F(Table_Model_Test, shows_bytes_that_are_no_text_as_replacement_characters) {
     rows.push_back({"1", "", "a\xff z"});
     model.catch_up();

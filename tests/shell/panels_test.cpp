@@ -1,7 +1,11 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QLineEdit>
 #include <QMessageBox>
+#include <QTemporaryDir>
 #include <QTimer>
 #include <atomic>
 
@@ -58,6 +62,43 @@ TEST_F(Alert_Test, lets_the_asking_worker_go_when_the_window_closes) {
     EXPECT_EQ(QApplication::exec(), 0);
     EXPECT_EQ(answer, 1);
     EXPECT_EQ(Worker::running(), 0);
+}
+
+/// A panel that a test answers as a person would.
+class Panel_Test : public testing::Test {
+  protected:
+    std::string choose(const File_Panel& panel, const QString& name) {
+        std::string path = "not answered";
+        open.desktop.open_file_panel(panel, [&](const std::string& chosen) { path = chosen; });
+        auto* const box = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        if (name.isEmpty()) {
+            box->reject();
+        } else {
+            box->findChild<QLineEdit*>("fileNameEdit")->setText(folder.filePath(name));
+            box->findChild<QDialogButtonBox*>()->buttons().at(0)->click();
+        }
+        open.turn();
+        return path;
+    }
+    std::string full(const char* name) { return folder.filePath(name).toStdString(); }
+
+    Open_Window open;
+    const QTemporaryDir folder;
+};
+
+TEST_F(Panel_Test, gives_the_path_that_was_chosen_and_none_when_cancelled) {
+    QDir(folder.path()).mkdir("folder");
+    QFile file(folder.filePath("file.HTML"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    const File_Panel save{.kind = File_Panel::Kind::save, .title = "Save"};
+    const File_Panel either{.message = "Select", .prompt = "OK", .folders = true, .sheet = true};
+    const File_Panel folders{.files = false, .folders = true};
+    EXPECT_EQ(choose(save, "new"), full("new"));
+    EXPECT_EQ(choose(save, "file.HTML"), full("file.HTML")) << "who asks about it is the program";
+    EXPECT_EQ(choose(either, "file.HTML"), full("file.HTML"));
+    EXPECT_EQ(choose(either, "folder"), full("folder"));
+    EXPECT_EQ(choose(folders, "folder"), full("folder"));
+    for (const File_Panel& panel : {save, either, folders}) EXPECT_EQ(choose(panel, ""), "");
 }
 
 }  // namespace
