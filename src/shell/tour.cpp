@@ -77,7 +77,7 @@ void Tour::look() {
     if (finished_) return;
     if (qobject_cast<QMessageBox*>(front())) return answer_question();
     const Stop stop = stops_.front();
-    if (document_.desktop().takes_input() && stop.reached()) {
+    if (takes_input() && stop.reached()) {
         if (stop.pictured) take_picture();
         if (stop.report) report_ += stop.report();
         if (finished_) return;
@@ -99,6 +99,11 @@ void Tour::answer_question() {
 QWidget* Tour::front() const {
     QWidget* const box = QApplication::activeModalWidget();
     return box ? box : &window_;
+}
+
+// A box that opens while the window is held is free.
+bool Tour::takes_input() const {
+    return front() != &window_ || document_.desktop().takes_input();
 }
 
 bool Tour::is_in_front(const char* name) const {

@@ -60,6 +60,7 @@ class Tour : public QObject {
     /// The box that stands foremost, else the window.
     QWidget* front() const;
     bool is_in_front(const char* name) const;
+    bool takes_input() const;
 
     void start_next();
     void look();
