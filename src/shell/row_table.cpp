@@ -163,7 +163,6 @@ void Row_Table::restore_selection() {
 }
 
 void Row_Table::search(const QString& typed) {
-    model_->catch_up();
     model_->search(Search_Term(typed));
 }
 

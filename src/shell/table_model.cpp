@@ -52,8 +52,15 @@ void Table_Model::catch_up() {
 
 void Table_Model::search(const Search_Term& term) {
     if (term.empty() && !searching()) return;
+    catch_up();
+    beginResetModel();
+    const bool narrows = searching() && term.narrows(term_);
     term_ = term;
-    start_anew();
+    if (narrows)
+        std::erase_if(found_, [this](int row) { return !is_found(row); });
+    else
+        found_ = found_between(0, announced_);
+    endResetModel();
 }
 
 void Table_Model::start_anew() {

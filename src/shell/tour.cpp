@@ -101,6 +101,13 @@ QWidget* Tour::front() const {
     return box ? box : &window_;
 }
 
+std::vector<QWidget*> Tour::boxes() const {
+    std::vector<QWidget*> boxes;
+    for (QWidget* box = front(); box && box != &window_; box = box->parentWidget())
+        boxes.insert(boxes.begin(), box);
+    return boxes;
+}
+
 // A box that opens while the window is held is free.
 bool Tour::takes_input() const {
     return front() != &window_ || document_.desktop().takes_input();
@@ -117,10 +124,11 @@ void Tour::take_picture() {
     QPixmap picture(size_of_pictures);
     window_.render(&picture);
     QPainter painter(&picture);
-    for (QWidget* const box : QApplication::topLevelWidgets()) {
-        if (box == &window_ || !box->isVisible() || !box->isModal()) continue;
+    for (QWidget* const box : boxes()) {
         painter.fillRect(picture.rect(), shade);
-        painter.drawPixmap(box->pos() - window_.pos(), box->grab());
+        QRect place = box->rect();
+        place.moveCenter(picture.rect().center());
+        painter.drawPixmap(place.topLeft(), box->grab());
     }
     painter.end();
     if (!picture.save(shown(file))) fail("cannot write " + file);

@@ -7,6 +7,7 @@
 #include <deque>
 #include <functional>
 #include <string>
+#include <vector>
 
 namespace velk {
 
@@ -59,6 +60,8 @@ class Tour : public QObject {
     void choose_file(const std::string& path);
     /// The box that stands foremost, else the window.
     QWidget* front() const;
+    /// All that stand before the window, the foremost last.
+    std::vector<QWidget*> boxes() const;
     bool is_in_front(const char* name) const;
     bool takes_input() const;
 
