@@ -3,6 +3,8 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QEvent>
+#include <QWindow>
+#include <algorithm>
 
 #include "shell/dialog_window.h"
 #include "shell/panels.h"
@@ -25,6 +27,22 @@ bool Qt_Desktop::event(QEvent* event) {
     run_turn();
     emit turn_ended();
     return true;
+}
+
+void Qt_Desktop::set_window(QWidget* window) {
+    window_ = window;
+    connect(qApp, &QGuiApplication::focusWindowChanged, this, &Qt_Desktop::lead_keys_to_front,
+            Qt::UniqueConnection);
+}
+
+void Qt_Desktop::lead_keys_to_front(const QWindow* focused) const {
+    QWidget* const box = QApplication::activeModalWidget();
+    if (!box || !focused || !window_ || box->windowHandle() == focused) return;
+    const auto is_focused = [focused](const QPointer<QWidget>& window) {
+        return window && window->windowHandle() == focused;
+    };
+    if (is_focused(window_) || std::any_of(boxes_.begin(), boxes_.end(), is_focused))
+        box->activateWindow();
 }
 
 QWidget* Qt_Desktop::front() const {

@@ -18,7 +18,7 @@ class Qt_Desktop : public QObject, public Desktop {
 
   public:
     /// The window that boxes stand before. Without one they stand alone.
-    void set_window(QWidget* window) { window_ = window; }
+    void set_window(QWidget* window);
 
     /// The window is closing: open boxes go, which lets the workers go that wait for them, and
     /// boxes that still come are answered as if the person had cancelled them.
@@ -44,6 +44,8 @@ class Qt_Desktop : public QObject, public Desktop {
     /// What stands foremost: the box that was opened last, else the window.
     QWidget* front() const;
     void keep(QWidget* box);
+    /// The second of two quick clicks may give the keys back to a window behind a box.
+    void lead_keys_to_front(const QWindow* focused) const;
 
     QPointer<QWidget> window_;
     std::vector<QPointer<QWidget>> boxes_;  // that are open
