@@ -94,20 +94,17 @@ TEST_F(Access, contacts) {
                 "OnBT_DeleteContacts", "OnBT_Contacts_DelAll", "OnBT_Contacts_Refresh",
                 "OnBT_ContactsExport", "OnBT_ContactsImport", "m_table_Contacts"});
     EXPECT_EQ(name_of(open.find("m_table_Contacts")), "Contacts");
+    EXPECT_EQ(name_of(open.find("m_table_Contacts_search")), "Search");
     for (const char* status : {"m_LB_ps", "m_LB_Tips_Contacts"})
         EXPECT_EQ(open.find(status)->accessibleDescription(), "Status");
 }
 
-TEST_F(Access, allow_pc) {
-    open.document->show_allow_pc_connect_view();
+TEST_F(Access, pages_of_trouble) {
     open.document->hidden_some(true);
-    check_page({"OnBT_Refresh", "trouble_scroll"});
-}
-
-TEST_F(Access, usb_debugging) {
-    open.document->show_setting_phone_usb_view();
-    open.document->hidden_some(true);
-    check_page({"OnBT_Refresh", "trouble_scroll"});
+    for (const int id : {DEFINE_VIEW_AllowPCConnect, DEFINE_VIEW_SettingPhoneUSB}) {
+        open.document->displayViewController(id);
+        check_page({"OnBT_Refresh", "trouble_scroll"});
+    }
 }
 
 }  // namespace

@@ -61,19 +61,6 @@ TEST_F(Table_Model_Test, does_not_read_rows_it_has_not_told_of_nor_rows_that_are
     EXPECT_FALSE(model.setData(last, "x", Qt::EditRole));
 }
 
-TEST_F(Table_Model_Test, starts_anew_after_a_reload_even_with_as_many_rows) {
-    append(2);
-    model.catch_up();
-    QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
-    rows.clear();
-    append(2);
-    table.reload();
-    model.catch_up();
-    model.catch_up();
-    EXPECT_EQ(resets.count(), 1);
-    EXPECT_EQ(model.rowCount(), 2);
-}
-
 TEST_F(Table_Model_Test, writes_an_edited_cell_into_its_field_behind_hidden_columns) {
     append(2);
     model.catch_up();
@@ -96,36 +83,25 @@ TEST_F(Table_Model_Test, takes_in_what_comes_while_something_is_searched_for) {
     EXPECT_TRUE(model.setData(model.index(0, 1), "Zoe", Qt::EditRole));
     EXPECT_EQ(rows[2].name, "Zoe");
     rows.clear();
-    EXPECT_FALSE(model.data(model.index(0, 0), Qt::DisplayRole).isValid());
-    append(4);
+    append(5);  // as many as there were
     table.reload();
     model.catch_up();
     EXPECT_EQ(model.rowCount(), 0);
     model.search({});
-    EXPECT_EQ(model.rowCount(), 4);
+    EXPECT_EQ(model.rowCount(), 5);
 }
 
 TEST(Search_Term, finds_letters_whatever_their_case_and_accents) {
-    const struct {
-        const char *typed, *text;
-        bool found;
-    } cases[] = {{" LINDQ ", "Ada Lindqvist", true},
-                 {"jose nunez", "José Ñuñez", true},
-                 {"Ñ", "nunez", true},
-                 {"петр", "Анна ПЕТРОВА", true},
-                 {"ö", "o\u0308", true},
-                 {"محمد", "مُحَمَّد", true},
-                 {"ok", "\U0001F642 ok \xff", true},
-                 {"adam", "Ada|m", false},
-                 {"小雨", "林小雪", false}};
-    for (const auto& [typed, text, found] : cases)
-        EXPECT_EQ(Search_Term(QString::fromUtf8(typed)).is_in(text), found) << typed;
-}
-
-TEST_F(Table_Model_Test, shows_bytes_that_are_no_text_as_replacement_characters) {
-    rows.push_back({"1", "", "a\xff z"});
-    model.catch_up();
-    EXPECT_EQ(model.index(0, 1).data().toString(), QString::fromUtf8("a\uFFFD z"));
+    const std::pair<const char*, const char*> found[] = {{" LINDQ ", "Ada Lindqvist"},
+                                                         {"jose nunez", "José Ñuñez"},
+                                                         {"Ñ", "nunez"},
+                                                         {"петр", "Анна ПЕТРОВА"},
+                                                         {"ö", "o\u0308"},
+                                                         {"محمد", "مُحَمَّد"},
+                                                         {"ok", "\U0001F642 ok \xff"}};
+    for (const auto& [typed, text] : found)
+        EXPECT_TRUE(Search_Term(QString::fromUtf8(typed)).is_in(text)) << typed;
+    EXPECT_FALSE(Search_Term(QString::fromUtf8("小雨")).is_in("林小雪"));
 }
 
 }  // namespace

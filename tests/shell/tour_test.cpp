@@ -5,7 +5,6 @@
 #include <QApplication>
 #include <QImage>
 #include <QTemporaryDir>
-#include <QTimer>
 
 #include "window_test.h"
 
@@ -24,17 +23,6 @@ TEST(Tour, ends_with_1_when_no_phone_is_reached_and_keeps_the_pictures_up_to_the
     EXPECT_NE(reason.find("no phone was reached"), std::string::npos) << reason;
     const QImage picture(QString::fromStdString(pictures + "/01-connecting.png"));
     EXPECT_EQ(picture.size(), QSize(1280, 800));
-}
-
-TEST(Tour, ends_with_1_when_the_window_is_closed_under_it) {
-    const QTemporaryDir folder;
-    Open_Window open;
-    testing::internal::CaptureStderr();
-    Tour tour(*open.document, *open.window, folder.path().toStdString());
-    QTimer::singleShot(0, open.window.get(), [&] { open.window->close(); });
-    QApplication::exec();
-    EXPECT_NE(testing::internal::GetCapturedStderr().find("closed"), std::string::npos);
-    EXPECT_EQ(tour.status(), 1);
 }
 
 }  // namespace

@@ -88,7 +88,7 @@ Open_Window::~Open_Window() {
 
 void Open_Window::connect() {
     g_connected_adb = 1;
-    g_table_contacts_need_refresh = 0;
+    g_table_contacts_need_refresh = g_table_sms_need_refresh = 0;
     document->hidden_some(false);
     turn();
 }
