@@ -6,6 +6,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTextEdit>
+#include <algorithm>
+#include <functional>
 #include <utility>
 
 #include "shell/row_table.h"
@@ -41,21 +43,24 @@ void Dialog_Window::build() {
     auto* const column = new QVBoxLayout(this);
     column->setContentsMargins(large_space, large_space, large_space, space_between);
     column->setSpacing(space_between);
-    auto* const grid = new QGridLayout;
-    grid->setHorizontalSpacing(space_between);
-    grid->setVerticalSpacing(12);
-    grid->setColumnStretch(1, 1);
-    bool wide = dialog_.table != nullptr;
-    for (const Dialog_Field& field : dialog_.fields) {
-        add_field(field, grid);
-        wide = wide || field.many_lines;
-    }
-    if (grid->count() > 0) column->addLayout(grid);
+    if (!dialog_.fields.empty()) add_fields(column);
     if (dialog_.table) add_table(column);
     if (dialog_.status) column->addWidget(status_line(binding_, *dialog_.status, this));
     column->addLayout(button_row());
-    setMinimumWidth(wide ? width_of_texts : width_of_lines);
+    const bool has_texts =
+        dialog_.table || std::any_of(dialog_.fields.begin(), dialog_.fields.end(),
+                                     std::mem_fn(&Dialog_Field::many_lines));
+    setMinimumWidth(has_texts ? width_of_texts : width_of_lines);
     if (first_input_) first_input_->setFocus();
+}
+
+void Dialog_Window::add_fields(QBoxLayout* column) {
+    auto* const grid = new QGridLayout;
+    column->addLayout(grid);
+    grid->setHorizontalSpacing(space_between);
+    grid->setVerticalSpacing(12);
+    grid->setColumnStretch(1, 1);
+    for (const Dialog_Field& field : dialog_.fields) add_field(field, grid);
 }
 
 void Dialog_Window::add_field(const Dialog_Field& field, QGridLayout* grid) {

@@ -6,6 +6,7 @@
 #include "shell/guards.h"
 #include "ui/dialog.h"
 
+class QBoxLayout;
 class QGridLayout;
 class QLayout;
 
@@ -33,6 +34,7 @@ class Dialog_Window : public QDialog {
 
   private:
     void build();
+    void add_fields(QBoxLayout* column);
     void add_field(const Dialog_Field& field, QGridLayout* grid);
     QWidget* control_of(const Dialog_Field& field);
     void add_table(QLayout* column);
