@@ -15,11 +15,11 @@ const std::array<Row_Column<SMS_TableSource_Column>, 9>& SMS_TableSource_Column:
     constexpr Comparison number = Comparison::number;
     static const std::array<Row_Column<Row>, 9> columns = {{
         {{.identifier = "col_no", .title = "No.", .comparison = number, .width = 6}, &Row::col_no},
-        {{.identifier = "col_sms_phone_number", .title = "Phone Number", .width = 18},
+        {{.identifier = "col_sms_phone_number", .title = "Phone Number", .width = 16},
          &Row::col_sms_phone_number},
-        {{.identifier = "col_sms_datetime", .title = "Date Time", .width = 20},
+        {{.identifier = "col_sms_datetime", .title = "Date Time", .width = 18},
          &Row::col_sms_datetime},
-        {{.identifier = "col_sms_type", .title = "Type", .width = 9}, &Row::col_sms_type},
+        {{.identifier = "col_sms_type", .title = "Type", .width = 7}, &Row::col_sms_type},
         {{.identifier = "col_sms_content_show", .title = "Text", .width = 40, .wide = true},
          &Row::col_sms_content_show},
         {{.identifier = "col_sms_content", .title = "Full Text", .hidden = true},
