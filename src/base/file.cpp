@@ -145,6 +145,7 @@ bool write_over(const std::filesystem::path& target, std::string_view content,
 }  // namespace
 
 std::string write_whole_file(const std::string& path, std::string_view content) {
+    if (path.empty()) return std::strerror(ENOENT);
     const std::filesystem::path target = behind_links(path);
     struct stat found {};
     const bool is_there = ::stat(target.c_str(), &found) == 0;

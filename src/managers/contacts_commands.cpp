@@ -113,6 +113,9 @@ void Contacts_TableSource::modify_as_typed(const std::string& id) {
     run_command(desktop(), "modify contact", [this, name, number, id] {
         const Busy_Note note = busy("Modifying a contact");
         Contacts_Modify_To_APK(name, number, id);
+        post([this] {
+            phone_was_changed(g_can_click_contacts_load, g_table_contacts_need_refresh);
+        });
     });
 }
 

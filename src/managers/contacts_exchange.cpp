@@ -1,5 +1,6 @@
 // The contacts as files: exported as a page, imported from one, and as a property list.
 #include <cstdlib>
+#include <filesystem>
 #include <optional>
 
 #include "base/file.h"
@@ -25,8 +26,9 @@ constexpr const char* no_rows = "That file holds no contacts, or not all of its 
 
 /// The file's text; nothing when it is not there or no text.
 std::optional<std::string> readFromFile(const std::string& path, const char*& reason) {
+    std::error_code no_matter;
+    log_line(std::filesystem::exists(path, no_matter) ? "file exist!" : "file not exist!");
     std::optional<std::string> text = read_whole_file(path);
-    log_line(text ? "file exist!" : "file not exist!");
     if (!text) reason = no_file;
     if (!text || is_utf8(*text)) return text;
     reason = no_utf8;
@@ -64,7 +66,7 @@ bool Contacts_TableSource::save_to_html(const std::string& path) {
     std::vector<Page_Contact> contacts;
     for (const auto& row : rows_on_the_screen(table_rows, m_table))
         contacts.push_back({row.col_no, row.col_name, row.col_phone_number});
-    const std::string reason = save_page(path, "Contacts", contacts_data(contacts));
+    const std::string reason = save_page(desktop(), path, "Contacts", contacts_data(contacts));
     if (!path.empty()) post([this, reason] { quiet.tell_reason(reason); });
     return reason.empty();
 }
@@ -120,8 +122,8 @@ bool Contacts_TableSource::import_rows(std::string_view rows) {
     int number = 0;
     while (!desktop().closing() && records.next(contact)) {
         note.say(format("Importing contact %d", ++number));
+        log_line("TelName=%s,TelNumber=%s", contact.name.c_str(), contact.number.c_str());
         if (!records.was_last()) {
-            log_line("TelName=%s,TelNumber=%s", contact.name.c_str(), contact.number.c_str());
             // A lone blank stands for nothing.
             if (contact.name == " ") contact.name.clear();
             if (contact.number == " ") contact.number.clear();
@@ -142,7 +144,7 @@ bool Contacts_TableSource::save_xml(const std::string& path) {
     std::vector<Listed_Contact> contacts;
     for (const auto& row : rows_on_the_screen(table_rows, m_table))
         contacts.push_back({row.col_id, row.col_name, row.col_phone_number});
-    return save_text(with_home(path), property_list_of(contacts)).empty();
+    return save_text(desktop(), with_home(path), property_list_of(contacts)).empty();
 }
 
 bool Contacts_TableSource::read_xml(const std::string& path) {

@@ -1,6 +1,6 @@
 #include "managers/contacts_page.h"
 
-#include <algorithm>
+#include <iterator>
 
 #include "base/text.h"
 
@@ -66,14 +66,16 @@ std::string_view getContactsFromHtml(std::string_view text) {
     const std::size_t end_of_header = text.find(end_of_record);
     const std::size_t end = text.find(end_of_array);
     if (end_of_header == std::string_view::npos || end == std::string_view::npos) return {};
-    const std::size_t start = end_of_header + end_of_record.size() + 1;  // behind the line feed
-    return start < end ? text.substr(start, end - start) : std::string_view();
+    const std::size_t start = end_of_header + end_of_record.size();
+    if (start >= end) return {};
+    return without_first(text.substr(start, end - start), 1);  // a line feed
 }
 
 Page_Contact get_one_contact_from_html(std::string_view record) {
     std::string_view rest = without_first(record, 2);
-    const bool is_last = rest.find(end_of_record) == std::string_view::npos;
-    if (!is_last || rest.find(']') != std::string_view::npos) rest = without_last(rest, 2);
+    const bool is_followed = rest.find(end_of_record) != std::string_view::npos;
+    const bool is_last = !is_followed && rest.find(']') != std::string_view::npos;
+    if (is_followed || is_last) rest = without_last(rest, 2);
     Page_Contact contact;
     std::string* fields[] = {&contact.id, &contact.name};
     std::size_t field = 0;
@@ -92,10 +94,10 @@ bool Page_Records::next(Page_Contact& contact) {
     was_last_ = end == std::string_view::npos;
     // What stands behind the last record and is no record is no contact either.
     if (was_last_ && rows_.find(']') == std::string_view::npos) return false;
-    const std::size_t length =
-        was_last_ ? rows_.size() : std::min(end + end_of_record.size() + 1, rows_.size());
-    contact = get_one_contact_from_html(rows_.substr(0, length));
-    rows_.remove_prefix(length);
+    const std::string_view rest =
+        was_last_ ? std::string_view() : without_first(rows_.substr(end + end_of_record.size()), 1);
+    contact = get_one_contact_from_html(rows_.substr(0, rows_.size() - rest.size()));
+    rows_ = rest;
     return true;
 }
 

@@ -20,6 +20,10 @@ struct Contacts_TableSource_Column {
     static const std::array<Row_Column<Contacts_TableSource_Column>, 4>& row_columns();
 };
 
+/// What to say of a list that does not fit into what the agent can send.
+inline constexpr const char* contacts_are_too_many =
+    "The phone's list of contacts is longer than its agent can send.";
+
 /// The row of a contact, its texts as the phone has them; `number` is its place in load order,
 /// from 1.
 Contacts_TableSource_Column row_of(const sock_apk::CONTACT& contact, std::size_t number);

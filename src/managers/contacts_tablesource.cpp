@@ -11,8 +11,6 @@ namespace velk {
 namespace {
 
 constexpr const char* command_list_contacts = "14";
-constexpr const char* list_is_too_long =
-    "The phone's list of contacts is longer than its agent can send.";
 
 /// "|" separates fields in requests, so no number on this side holds one.
 Contacts_TableSource_Column row_without_separators(const sock_apk::CONTACT& contact,
@@ -33,6 +31,7 @@ Contacts_TableSource::Contacts_TableSource(Main_Window& window)
     section.search_text = "Search names and numbers";
     section.table = &m_table;
     section.status = &m_LB_Tips_Contacts;
+    section.second_status = &m_LB_Message;
     set_commands({
         {.name = "OnBT_AddContacts",
          .caption = "Add",
@@ -121,7 +120,7 @@ void Contacts_TableSource::TableView_FullData() {
     filling.post([this, too_long, count = contacts.size()] {
         m_LB_Tips_Contacts.set_text(
             format("There are %zu contact(s) on your Mobile Phone.", count));
-        quiet.tell_of_list(too_long ? list_is_too_long
+        quiet.tell_of_list(too_long ? contacts_are_too_many
                                     : remark_on_list(list_is_old_, g_int_count_contacts, count));
         refresh_button_contacts_title();
     });

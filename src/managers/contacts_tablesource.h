@@ -83,7 +83,6 @@ class Contacts_TableSource : public Table_Source {
     // Workers.
     /// Asks the phone for all contacts and appends a row for each.
     void TableView_FullData();
-    void delete_all(Held_Flag& running);
     void delete_records_all();
     void thread_do_read_xml(const std::string& path);
     /// Adds the page's contacts to the phone; false when there is none.

@@ -14,7 +14,7 @@ void Quiet_Line::show(std::string& part, std::string text) {
 }
 
 std::string remark_on_list(bool is_old, int counted, std::size_t came) {
-    if (is_old) return "The phone was changed while the list came. Refresh reads it again.";
+    if (is_old) return list_is_old;
     if (g_phone_was_changed || counted <= 0 || came >= static_cast<std::size_t>(counted)) return "";
     return format("The phone counts %d, but %zu came. Refresh tries again.", counted, came);
 }

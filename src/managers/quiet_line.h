@@ -28,6 +28,9 @@ class Quiet_Line {
     std::string remark_;
 };
 
+inline constexpr const char* list_is_old =
+    "The phone was changed while the list came. Refresh reads it again.";
+
 /// What to say of a list that has come: that the phone was changed while it came, or that it has
 /// fewer rows than the phone counted when its summary was read. The latter not once the phone was
 /// changed, because that count is old then.

@@ -38,16 +38,18 @@ std::string choose_save_path(Desktop& desktop, const std::string& title,
     }
 }
 
-std::string save_text(const std::string& path, const std::string& text) {
-    const std::string reason = write_whole_file(path, as_utf8(text));
+std::string save_text(const Desktop& desktop, const std::string& path, const std::string& text) {
+    const std::string reason =
+        desktop.closing() ? "The window was closed." : write_whole_file(path, as_utf8(text));
     trace("save :%d", reason.empty());
     return reason;
 }
 
-std::string save_page(const std::string& path, const std::string& title, const std::string& data) {
+std::string save_page(const Desktop& desktop, const std::string& path, const std::string& title,
+                      const std::string& data) {
     const std::string page = as_utf8(HTML_Tools().get_html(title, data));
     log_line("%s", page.c_str());
-    return save_text(path, page);
+    return save_text(desktop, path, page);
 }
 
 }  // namespace velk

@@ -14,10 +14,12 @@ std::string choose_save_path(Desktop& desktop, const std::string& title,
                              const std::string& extension);
 
 /// Writes the text as valid UTF-8, and prints whether it was written. Gives "" when it was, else
-/// the reason; an empty path is never written.
-std::string save_text(const std::string& path, const std::string& text);
+/// the reason. Nothing is written without a path, or once the window has closed: what was asked of
+/// the window since then, such as its rows, is not whole.
+std::string save_text(const Desktop& desktop, const std::string& path, const std::string& text);
 
 /// The same for the page of that title and data text, which is logged first.
-std::string save_page(const std::string& path, const std::string& title, const std::string& data);
+std::string save_page(const Desktop& desktop, const std::string& path, const std::string& title,
+                      const std::string& data);
 
 }  // namespace velk

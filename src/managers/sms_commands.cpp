@@ -77,6 +77,7 @@ void SMS_TableSource::OnBT_SendSMS() {
     SMS_Send& dialog = composer();
     dialog.window_title.set_text("Send Message......");
     dialog.m_LB_Tips.set_text("");
+    dialog.m_LB_Quiet.set_text("");
     dialog.m_ET_Send_Contects_telname.set_text("");
     dialog.m_ET_SMS_Content.set_text("");
     dialog.m_contacts.clear();
@@ -100,13 +101,15 @@ std::string SMS_TableSource::get_save_fullpath(const std::string& extension) {
 
 bool SMS_TableSource::save_to_html(const std::string& path) {
     const Busy_Note note = busy("Exporting messages");
-    return tell_saved(path,
-                      save_page(path, "Messages", sms_page_data(rows_on_the_screen(table_rows, m_table))));
+    return tell_saved(path, save_page(desktop(), path, "Messages",
+                                      sms_page_data(rows_on_the_screen(table_rows, m_table))));
 }
 
 bool SMS_TableSource::save_to_txt(const std::string& path) {
     const std::string now = often_tools_function::get_current_date_time();
-    return tell_saved(path, save_text(path, sms_plain_text(rows_on_the_screen(table_rows, m_table), now)));
+    return tell_saved(
+        path,
+        save_text(desktop(), path, sms_plain_text(rows_on_the_screen(table_rows, m_table), now)));
 }
 
 bool SMS_TableSource::tell_saved(const std::string& path, const std::string& reason) {

@@ -23,6 +23,7 @@ class SMS_Contacts : public Dialog {
 
     Row_List<Contacts_TableSource_Column> rows;
     Table m_table{"m_table_SMS_Contacts", rows};
+    Label m_LB_Quiet{"m_LB_Quiet_SMS_Contacts"};  // what is wrong with the list
     /// Chosen with OK: name and number. Whoever closes it with no row selected keeps the last ones.
     std::vector<sock_apk::CONTACT> contacts;
 

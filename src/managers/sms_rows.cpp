@@ -17,9 +17,10 @@ const std::array<Row_Column<SMS_TableSource_Column>, 9>& SMS_TableSource_Column:
         {{.identifier = "col_no", .title = "No.", .comparison = number, .width = 6}, &Row::col_no},
         {{.identifier = "col_sms_phone_number", .title = "Phone Number", .width = 16},
          &Row::col_sms_phone_number},
-        {{.identifier = "col_sms_datetime", .title = "Date Time", .width = 18},
+        {{.identifier = "col_sms_datetime", .title = "Date Time", .width = 18, .searched = false},
          &Row::col_sms_datetime},
-        {{.identifier = "col_sms_type", .title = "Type", .width = 7}, &Row::col_sms_type},
+        {{.identifier = "col_sms_type", .title = "Type", .width = 7, .searched = false},
+         &Row::col_sms_type},
         {{.identifier = "col_sms_content_show", .title = "Text", .width = 40, .wide = true},
          &Row::col_sms_content_show},
         {{.identifier = "col_sms_content", .title = "Full Text", .hidden = true},
@@ -41,7 +42,8 @@ SMS_TableSource_Column row_of(const sock_apk::SMS_RECORD& message, std::size_t n
     SMS_TableSource_Column row;
     row.col_no = std::to_string(number);
     row.col_sms_phone_number = until_nul(message.TEL);
-    row.col_sms_content = until_nul(message.TEXT);
+    // A person's words are shown to their end, whatever stands between them.
+    row.col_sms_content = replace_all(message.TEXT, std::string_view("\0", 1), "\xEF\xBF\xBD");
     row.col_sms_content_show = replace_all(row.col_sms_content, '\n', ' ');
     row.col_sms_datetime = until_nul(message.DATE);
     row.col_sms_type = message.TYPE == agents_type_inbox ? sms_type_inbox : sms_type_outbox;

@@ -36,6 +36,7 @@ SMS_Send::SMS_Send(Main_Window& window) : Dialog("SMS_Send"), window_(window) {
                                  .run = [this] { OnBT_Contacts(); }}},
               {.caption = "Message", .takes = &m_ET_SMS_Content, .many_lines = true}};
     status = &m_LB_Tips;
+    quiet = &m_LB_Quiet;
     commands = {
         {.name = "OnBT_Send", .caption = "Send", .icon = "send", .run = [this] { OnBT_Send(); }}};
     m_ET_SMS_Content.on_typed([this] { OnChanged_ET_SMS_Content(); });
@@ -103,6 +104,7 @@ bool SMS_Send::may_be_sent() {
         return false;
     }
     m_LB_Tips.set_text("");
+    m_LB_Quiet.set_text("");
     if (length <= longest_message) return true;
     m_LB_Tips.set_text(
         format("%d characters > 140 character,please less character to 140 characters.", length));
@@ -119,26 +121,30 @@ void SMS_Send::OnBT_Send() {
 void SMS_Send::send(const Job& job) {
     Busy_Note note(desktop(), window_.busy_line(), "Sending");
     sock_apk agent;
+    std::string failed;
     for (std::size_t i = 0; i < job.contacts.size() && !desktop().closing(); ++i) {
         const sock_apk::CONTACT& contact = job.contacts[i];
         note.say(format("Sending %zu of %zu", i + 1, job.contacts.size()));
         log_line("TelNumber = %s,Name = %s", contact.tel.c_str(), contact.name.c_str());
-        if (contains_ignoring_case(job.recipients, contact.tel))
-            send_one(agent, job.message, contact);
-        else  // its entry was taken out by hand
+        if (!contains_ignoring_case(job.recipients, contact.tel))  // it was taken out by hand
             log_line("NOT FOUND : TelNumber = %s,Name = %s", contact.tel.c_str(),
                      contact.name.c_str());
+        else if (!send_one(agent, job.message, contact))
+            failed += (failed.empty() ? "Not sent to " : ", ") + contact.tel;
     }
+    if (failed.empty()) return;
+    desktop().post([this, failed] { m_LB_Quiet.set_text(failed + "."); });
 }
 
-void SMS_Send::send_one(sock_apk& agent, const std::string& message,
+bool SMS_Send::send_one(sock_apk& agent, const std::string& message,
                         const sock_apk::CONTACT& contact) {
     desktop().post([] { g_phone_was_changed = 1; });
-    if (agent.send_sms(message.c_str(), contact.tel.c_str()).empty()) return;
+    if (agent.send_sms(message.c_str(), contact.tel.c_str()).empty()) return false;
     desktop().post([this, contact] {
         m_LB_Tips.set_text(format("Successfully send a message to \"%s(%s)\"", contact.name.c_str(),
                                   contact.tel.c_str()));
     });
+    return true;
 }
 
 }  // namespace velk

@@ -24,6 +24,7 @@ class SMS_Send : public Dialog {
     Text_Field m_ET_Send_Contects_telname{"m_ET_Send_Contects_telname"};  // the recipients
     Text_Field m_ET_SMS_Content{"m_ET_SMS_Content"};                      // the message
     Label m_LB_Tips{"m_LB_Tips"};  // length of the message, what is missing, what was sent
+    Label m_LB_Quiet{"m_LB_Quiet_SMS_Send"};    // to whom the message could not be sent
     std::vector<sock_apk::CONTACT> m_contacts;  // the recipients: name and number
 
     /// Lets the person pick contacts, which take the place of all recipients.
@@ -51,7 +52,8 @@ class SMS_Send : public Dialog {
     void take_picked();
     /// Worker.
     void send(const Job& job);
-    void send_one(sock_apk& agent, const std::string& message, const sock_apk::CONTACT& contact);
+    /// True when the agent answered.
+    bool send_one(sock_apk& agent, const std::string& message, const sock_apk::CONTACT& contact);
     Desktop& desktop();
 
     Main_Window& window_;

@@ -26,7 +26,9 @@ void Table_Source::ask_person(const std::string& question, std::function<void()>
 
 void Table_Source::phone_was_changed(Flag may_load, Flag& needs_refresh) {
     list_is_old_ = !may_load;
-    if (list_is_old_) needs_refresh = 1;
+    if (!list_is_old_) return;
+    needs_refresh = 1;
+    quiet.tell_of_list(list_is_old);
 }
 
 bool Table_Source::person_agrees(const std::string& question) {

@@ -102,7 +102,7 @@ bool Table_Source::delete_selected(Row_List<Row>& rows, Table& table, Delete_One
         return false;
     }
     Busy_Note note = busy("Deleting");
-    for (std::size_t i = 0; i < chosen.rows.size(); ++i) {
+    for (std::size_t i = 0; i < chosen.rows.size() && !desktop().closing(); ++i) {
         note.say(format("Deleting %zu of %zu", i + 1, chosen.rows.size()));
         delete_one(chosen.rows[i]);
     }

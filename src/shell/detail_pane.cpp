@@ -1,10 +1,10 @@
 #include "shell/detail_pane.h"
 
+#include <QLineEdit>
 #include <QTextEdit>
 #include <QVBoxLayout>
 
 #include "shell/look.h"
-#include "shell/text_label.h"
 #include "shell/widgets.h"
 
 namespace velk {
@@ -31,15 +31,15 @@ Detail_Pane::Detail_Pane(const Detail& detail, Binding& binding, QWidget* parent
     heading->setSpacing(2);
     column->addLayout(heading);
     if (detail.title) {
-        auto* const title = new Text_Label(this);
+        auto* const title = new QLineEdit(this);
         title->setFont(scaled_font(1.2, true));
-        bind_label(binding, *detail.title, title);
+        bind_reading(binding, *detail.title, title);
         heading->addWidget(title);
     }
     if (detail.subtitle) {
-        auto* const subtitle = new Text_Label(this);
-        make_quiet(subtitle);
-        bind_label(binding, *detail.subtitle, subtitle);
+        auto* const subtitle = new QLineEdit(this);
+        subtitle->setProperty("quiet", true);
+        bind_reading(binding, *detail.subtitle, subtitle);
         heading->addWidget(subtitle);
     }
     auto* const text = new QTextEdit(this);

@@ -45,13 +45,22 @@ void Dialog_Window::build() {
     column->setSpacing(space_between);
     if (!dialog_.fields.empty()) add_fields(column);
     if (dialog_.table) add_table(column);
-    if (dialog_.status) column->addWidget(status_line(binding_, *dialog_.status, this));
+    add_lines(column);
     column->addLayout(button_row());
     const bool has_texts =
         dialog_.table || std::any_of(dialog_.fields.begin(), dialog_.fields.end(),
                                      std::mem_fn(&Dialog_Field::many_lines));
     setMinimumWidth(has_texts ? width_of_texts : width_of_lines);
     if (first_input_) first_input_->setFocus();
+}
+
+void Dialog_Window::add_lines(QBoxLayout* column) {
+    if (!dialog_.status && !dialog_.quiet) return;
+    auto* const lines = new QVBoxLayout;
+    column->addLayout(lines);
+    set_tight(lines, 2);
+    if (dialog_.status) lines->addWidget(status_line(binding_, *dialog_.status, this));
+    if (dialog_.quiet) lines->addWidget(quiet_line(binding_, *dialog_.quiet, this));
 }
 
 void Dialog_Window::add_fields(QBoxLayout* column) {

@@ -35,6 +35,7 @@ class Dialog_Window : public QDialog {
   private:
     void build();
     void add_fields(QBoxLayout* column);
+    void add_lines(QBoxLayout* column);
     void add_field(const Dialog_Field& field, QGridLayout* grid);
     QWidget* control_of(const Dialog_Field& field);
     void add_table(QLayout* column);

@@ -32,8 +32,13 @@ Search_Box::Search_Box(Row_Table& table, const QString& looks_for, QWidget* pare
     clear->setToolTip(QStringLiteral("Clear"));
     clear->setVisible(false);
     connect(clear, &QAction::triggered, this, &QLineEdit::clear);
-    connect(this, &QLineEdit::textChanged, &table, [&table, clear](const QString& typed) {
+    auto* const escape = new QShortcut(Qt::Key_Escape, &table);
+    escape->setContext(Qt::WidgetShortcut);
+    escape->setEnabled(false);
+    connect(escape, &QShortcut::activated, this, &QLineEdit::clear);
+    connect(this, &QLineEdit::textChanged, &table, [&table, clear, escape](const QString& typed) {
         clear->setVisible(!typed.isEmpty());
+        escape->setEnabled(!typed.isEmpty());
         table.search(typed);
     });
     // A page that is not shown does not listen.

@@ -78,13 +78,13 @@ QWidget* Section_Page::table_and_detail() {
 QLayout* Section_Page::status_lines() {
     auto* const lines = new QVBoxLayout;
     set_tight(lines, 2);
-    lines->addWidget(status_line(parts_.binding, *section_.status, this));
-    if (!section_.quiet) return lines;
-    auto* const quiet = new Text_Label(this);
-    quiet->set_sentence();
-    make_quiet(quiet);
-    lines->addWidget(quiet);
-    bind_label(parts_.binding, *section_.quiet, quiet);
+    auto* const statuses = new QHBoxLayout;
+    set_tight(statuses, space_between);
+    statuses->addWidget(status_line(parts_.binding, *section_.status, this), 1);
+    if (section_.second_status)
+        statuses->addWidget(status_line(parts_.binding, *section_.second_status, this));
+    lines->addLayout(statuses);
+    if (section_.quiet) lines->addWidget(quiet_line(parts_.binding, *section_.quiet, this));
     return lines;
 }
 

@@ -91,7 +91,7 @@ void Table_Model::show_appended() {
 bool Table_Model::is_found(int row) const {
     return std::any_of(columns_.begin(), columns_.end(), [&](int column) {
         const auto& described = table_.rows().columns()[static_cast<std::size_t>(column)];
-        return described.comparison == Comparison::text &&
+        return described.searched && described.comparison == Comparison::text &&
                term_.is_in(table_.rows().cell(row, column));
     });
 }
@@ -132,7 +132,8 @@ QVariant Table_Model::data(const QModelIndex& index, int role) const {
 }
 
 bool Table_Model::setData(const QModelIndex& index, const QVariant& value, int role) {
-    if (role != Qt::EditRole || !is_there(index)) return false;
+    // An editor may end after other rows have come into the place of its own.
+    if (role != Qt::EditRole || reloads_ != table_.reloads() || !is_there(index)) return false;
     table_.rows().set_cell(table_row(index.row()), table_column(index.column()),
                            value.toString().toStdString());
     emit dataChanged(index, index, {Qt::DisplayRole, Qt::EditRole});

@@ -7,6 +7,7 @@
 #include <QSignalBlocker>
 #include <QTextEdit>
 #include <algorithm>
+#include <limits>
 #include <utility>
 
 #include "session/main_document.h"
@@ -33,8 +34,14 @@ void bind_widget(Binding& binding, Outlet_Type& outlet, Widget* widget, Show sho
 }
 
 /// Does not move the cursor of somebody who is typing.
+/// What was typed, its blanks as they are: toPlainText() makes all of them plain.
+QString typed_in(const QTextEdit* edit) {
+    QString text = edit->document()->toRawText();
+    return text.replace(QChar::ParagraphSeparator, u'\n').replace(QChar::LineSeparator, u'\n');
+}
+
 void show_in(QTextEdit* edit, const QString& text) {
-    if (edit->toPlainText() == text) return;
+    if (typed_in(edit) == text) return;
     const QSignalBlocker nobody_types(edit);
     edit->setPlainText(text);
 }
@@ -89,7 +96,19 @@ void bind_reading(Binding& binding, Label& outlet, QTextEdit* edit) {
     });
 }
 
+void bind_reading(Binding& binding, Label& outlet, QLineEdit* edit) {
+    edit->setReadOnly(true);
+    edit->setFrame(false);
+    edit->setProperty("reading", true);
+    bind_widget(binding, outlet, edit, [](const Label& from, QLineEdit* to) {
+        to->setText(shown(from.text()));
+        to->setCursorPosition(0);
+        to->setAccessibleName(shown(from.text()));
+    });
+}
+
 void bind_field(Binding& binding, Text_Field& outlet, QLineEdit* edit) {
+    edit->setMaxLength(std::numeric_limits<int>::max());
     bind_widget(binding, outlet, edit, [](const Text_Field& from, QLineEdit* to) {
         const QString text = shown(from.text());
         if (text != to->text()) to->setText(text);
@@ -104,7 +123,7 @@ void bind_field(Binding& binding, Text_Field& outlet, QTextEdit* edit) {
     bind_widget(binding, outlet, edit,
                 [](const Text_Field& from, QTextEdit* to) { show_in(to, shown(from.text())); });
     QObject::connect(edit, &QTextEdit::textChanged, edit,
-                     [&outlet, edit] { outlet.type(edit->toPlainText().toStdString()); });
+                     [&outlet, edit] { outlet.type(typed_in(edit).toStdString()); });
 }
 
 void make_quiet(QLabel* label) {
@@ -130,6 +149,14 @@ Text_Label* status_line(Binding& binding, Label& outlet, QWidget* parent) {
     auto* const line = new Text_Label(parent);
     line->set_sentence();
     line->setAccessibleDescription(QStringLiteral("Status"));
+    bind_label(binding, outlet, line);
+    return line;
+}
+
+Text_Label* quiet_line(Binding& binding, Label& outlet, QWidget* parent) {
+    auto* const line = new Text_Label(parent);
+    line->set_sentence();
+    make_quiet(line);
     bind_label(binding, outlet, line);
     return line;
 }

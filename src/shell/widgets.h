@@ -49,6 +49,8 @@ void bind_gauge(Binding& binding, Level_Indicator& outlet, Level_Gauge* gauge);
 void bind_image(Binding& binding, Image& outlet, Picture_View* image);
 /// A text of any length, to be read. Its accessible name is the text, as a label's is.
 void bind_reading(Binding& binding, Label& outlet, QTextEdit* edit);
+/// One line of the same kind.
+void bind_reading(Binding& binding, Label& outlet, QLineEdit* edit);
 /// What a person types reaches the outlet at once.
 void bind_field(Binding& binding, Text_Field& outlet, QLineEdit* edit);
 void bind_field(Binding& binding, Text_Field& outlet, QTextEdit* edit);
@@ -66,6 +68,9 @@ QPushButton* refresh_button(const Window_Parts& parts, std::function<void()> run
 
 /// The line in which a section or a dialog says how things stand.
 Text_Label* status_line(Binding& binding, Label& outlet, QWidget* parent);
+
+/// The line under it, which says what the status line does not.
+Text_Label* quiet_line(Binding& binding, Label& outlet, QWidget* parent);
 
 /// No margins, this much between the items.
 void set_tight(QBoxLayout* layout, int spacing);

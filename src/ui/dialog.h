@@ -41,6 +41,7 @@ class Dialog {
     std::string table_title;  // the table's accessible name
     std::string empty_text;   // what an empty table says it would show
     Label* status = nullptr;
+    Label* quiet = nullptr;         // a second line under the status line
     std::vector<Command> commands;  // left to right
 
     /// Closed with OK, or without.

@@ -25,9 +25,10 @@ struct Section {
     std::string search_text;  // what an empty search box says it looks for
     Table* table = nullptr;
     Label* status = nullptr;
-    Label* quiet = nullptr;         // the second line, under the status line
-    Detail detail = {};             // without a text there is no pane
-    std::vector<Command> commands;  // left to right
+    Label* second_status = nullptr;  // beside it, where a section has one
+    Label* quiet = nullptr;          // the second line, under the status line
+    Detail detail = {};              // without a text there is no pane
+    std::vector<Command> commands;   // left to right
 };
 
 }  // namespace velk

@@ -22,9 +22,10 @@ struct Column {
     const char* identifier;  // the field's name, "col_name"
     const char* title;       // what the header reads
     Comparison comparison = Comparison::text;
-    int width = 12;       // at the start, in average characters
-    bool wide = false;    // takes what room is left
-    bool hidden = false;  // kept in the row, not shown
+    int width = 12;        // at the start, in average characters
+    bool wide = false;     // takes what room is left
+    bool hidden = false;   // kept in the row, not shown
+    bool searched = true;  // where it holds words; false for dates and for words like "Inbox"
 };
 
 /// The rows behind a table, seen cell by cell. User-interface thread.
