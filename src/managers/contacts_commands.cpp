@@ -8,11 +8,6 @@ namespace velk {
 
 namespace {
 
-/// "|" separates fields in requests, so no number may hold one.
-std::string number_without_separator(const Text_Field& typed) {
-    return replace_all(typed.text(), '|', '!');
-}
-
 /// A contact without a name goes by its number.
 std::string name_or(const Text_Field& typed, const std::string& number) {
     return typed.text().empty() ? number : typed.text();
@@ -24,10 +19,6 @@ std::string result_line(bool good, const char* done, const char* failed, const s
 }
 
 }  // namespace
-
-void Contacts_TableSource::post_status(std::string text) {
-    post([this, text = std::move(text)] { say(text); });
-}
 
 void Contacts_TableSource::show_message(const std::string& text, std::function<void()> answered) {
     desktop().open_alert({.title = "Information",
@@ -52,7 +43,7 @@ void Contacts_TableSource::OnBT_AddContacts() {
 }
 
 void Contacts_TableSource::add_what_was_typed() {
-    const std::string number = number_without_separator(add_dialog_->m_Edit_PhoneNumber);
+    const std::string number = without_separators(add_dialog_->m_Edit_PhoneNumber.text());
     if (!add_dialog_->bOK) return;
     // It asks for the name although the number is what is missing; it has always been so.
     if (number.empty()) return refuse(msg_AddNothingContact, msg_AddNothingContact);
@@ -104,19 +95,17 @@ void Contacts_TableSource::OnBT_ModifyContacts() {
 }
 
 void Contacts_TableSource::modify_as_typed(const std::string& id) {
-    const std::string number = number_without_separator(edit_dialog_->m_Edit_PhoneNumber);
+    const std::string number = without_separators(edit_dialog_->m_Edit_PhoneNumber.text());
     if (!edit_dialog_->bOK) return;
     // Box and status line have always told two different things here.
     if (number.empty()) return refuse(msg_AddNothingContact_Number, msg_AddNothingContact);
     const std::string name = name_or(edit_dialog_->m_Edit_Name, number);
-    Contacts_Modify(name, number);
-    run_command(desktop(), "modify contact", [this, name, number, id] {
+    const bool accepted = run_command(desktop(), "modify contact", [this, name, number, id] {
         const Busy_Note note = busy("Modifying a contact");
         Contacts_Modify_To_APK(name, number, id);
-        post([this] {
-            phone_was_changed(g_can_click_contacts_load, g_table_contacts_need_refresh);
-        });
+        post([this] { list_may_be_old(g_table_contacts_need_refresh); });
     });
+    if (accepted) Contacts_Modify(name, number);  // before anything that the worker posts
 }
 
 void Contacts_TableSource::Contacts_Modify(const std::string& name,
@@ -145,7 +134,7 @@ bool Contacts_TableSource::Contacts_Modify_To_APK(const std::string& name,
 
 void Contacts_TableSource::OnBT_DeleteContacts() {
     if (selected_row == -1) return;
-    ask_person("Are you sure you want to delete the selected item(s)?", [this] {
+    ask_person(delete_selected_question, [this] {
         run_command(desktop(), "delete contacts", [this] {
             const bool deleted = delete_selected(table_rows, m_table, [this](const auto& row) {
                 Contacts_Del_To_APK(row.col_id, row.col_name, row.col_phone_number);
@@ -162,17 +151,15 @@ bool Contacts_TableSource::Contacts_Del_To_APK(const std::string& id, const std:
         result_line(good, "Successfully deleted", "Faild to delete", Tel_Name, Tel_Number);
     post_status(line);
     trace("%s\n", line.c_str());
-    post([this] {
-        g_phone_was_changed = 1;
-        refresh_button_contacts_title();
-    });
+    post_change();
+    post([this] { refresh_button_contacts_title(); });
     return good;
 }
 
 void Contacts_TableSource::ContactsDeleteAll() {
     start_guarded(desktop(), g_can_click_contacts_delete_all, "delete contacts",
                   [this](Held_Flag& running) {
-                      if (!person_agrees("Are your sure you want to delete all items?")) return;
+                      if (!person_agrees(delete_all_question)) return;
                       delete_records_all();
                       running.give_back();
                       post([this] { reload_after_a_change(); });
@@ -183,8 +170,8 @@ void Contacts_TableSource::delete_records_all() {
     const Busy_Note note = busy("Deleting all contacts");
     sock_apk phone;
     const bool good = phone.do_command(phone.getCommand_DelAllContacts());
+    post_change();
     post([this, good] {
-        g_phone_was_changed = 1;
         say(good ? "Successfully deleted all contacts!" : "Faild to delete all contacts!");
         table_rows.clear();
         m_table.reload();

@@ -63,12 +63,8 @@ std::string Contacts_TableSource::get_save_fullpath(const std::string& extension
 
 bool Contacts_TableSource::save_to_html(const std::string& path) {
     const Busy_Note note = busy("Exporting contacts");
-    std::vector<Page_Contact> contacts;
-    for (const auto& row : rows_on_the_screen(table_rows, m_table))
-        contacts.push_back({row.col_no, row.col_name, row.col_phone_number});
-    const std::string reason = save_page(desktop(), path, "Contacts", contacts_data(contacts));
-    if (!path.empty()) post([this, reason] { quiet.tell_reason(reason); });
-    return reason.empty();
+    const std::string data = contacts_data(rows_on_the_screen(table_rows, m_table));
+    return tell_saved(path, save_page(desktop(), path, "Contacts", data));
 }
 
 // --- import ---
@@ -104,6 +100,7 @@ void Contacts_TableSource::thread_do_read_xml(const std::string& path) {
 }
 
 bool Contacts_TableSource::read_html(const std::string& path) {
+    const Busy_Note note = busy("Reading the file");
     const char* reason = "";
     const std::optional<std::string> text = readFromFile(path, reason);
     if (text && !is_ContactsHtml(*text))

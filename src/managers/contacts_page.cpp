@@ -12,9 +12,9 @@ constexpr std::string_view header_cells = "'ID','Name','Phone Number'";
 constexpr std::string_view end_of_record = "],";
 constexpr std::string_view end_of_array = "];";
 
-/// What a cell may hold: "|" separates fields in requests, "'" ends a text on the page.
+/// What a cell may hold: "'" would end a text on the page.
 std::string cell(const std::string& text) {
-    return replace_all(replace_all(text, '|', '!'), '\'', ' ');
+    return replace_all(without_separators(text), '\'', ' ');
 }
 
 bool continues_a_character(char byte) {
@@ -42,18 +42,18 @@ std::string_view without_last(std::string_view text, int count) {
 std::string number_of(std::string_view rest, bool is_last) {
     const int too_much = is_last ? 1 : rest.find("''") != std::string_view::npos ? 3 : 2;
     const std::string_view number = without_last(rest, too_much);
-    return number.empty() ? " " : replace_all(std::string(number), '|', '!');
+    return number.empty() ? " " : without_separators(std::string(number));
 }
 
 }  // namespace
 
-std::string contacts_data(const std::vector<Page_Contact>& contacts) {
+std::string contacts_data(const std::vector<Contacts_TableSource_Column>& rows) {
     std::string data = "\n[" + std::string(header_cells) + "],";
     std::size_t number = 0;
-    for (const Page_Contact& contact : contacts) {
+    for (const Contacts_TableSource_Column& row : rows) {
         if (number > 0) data += ',';
-        data += "\n['" + std::to_string(++number) + "','" + cell(contact.name) + "','" +
-                cell(contact.number) + "']";
+        data += "\n['" + std::to_string(++number) + "','" + cell(row.col_name) + "','" +
+                cell(row.col_phone_number) + "']";
     }
     return data;
 }

@@ -5,17 +5,20 @@
 #include <string_view>
 #include <vector>
 
+#include "managers/contacts_rows.h"
+
 namespace velk {
 
+/// What a page says of a contact.
 struct Page_Contact {
-    std::string id;  // on a page, the running number
+    std::string id;  // the running number on the page
     std::string name;
     std::string number;
     bool operator==(const Page_Contact&) const = default;
 };
 
-/// The data text of the page: the header row, then one for each contact; their ids do not matter.
-std::string contacts_data(const std::vector<Page_Contact>& contacts);
+/// The data text of the page: the header row, then one for each contact.
+std::string contacts_data(const std::vector<Contacts_TableSource_Column>& rows);
 
 /// True when the text is an exported page of contacts.
 bool is_ContactsHtml(std::string_view text);

@@ -1,8 +1,25 @@
 #include "managers/contacts_rows.h"
 
+#include "agent/sock_apk.h"
 #include "base/text.h"
 
 namespace velk {
+
+namespace {
+
+constexpr const char* command_list_contacts = "14";
+
+/// A record's ID and name run on into the bytes behind them; a text ends at its first NUL.
+Contacts_TableSource_Column row_of(const sock_apk::CONTACT& contact, std::size_t number) {
+    Contacts_TableSource_Column row;
+    row.col_no = std::to_string(number);
+    row.col_id = until_nul(contact.ID);
+    row.col_name = until_nul(contact.name);
+    row.col_phone_number = until_nul(contact.tel);
+    return row;
+}
+
+}  // namespace
 
 const std::array<Row_Column<Contacts_TableSource_Column>, 4>&
 Contacts_TableSource_Column::row_columns() {
@@ -19,14 +36,18 @@ Contacts_TableSource_Column::row_columns() {
     return columns;
 }
 
-/// A record's ID and name run on into the bytes behind them; a text ends at its first NUL.
-Contacts_TableSource_Column row_of(const sock_apk::CONTACT& contact, std::size_t number) {
-    Contacts_TableSource_Column row;
-    row.col_no = std::to_string(number);
-    row.col_id = until_nul(contact.ID);
-    row.col_name = until_nul(contact.name);
-    row.col_phone_number = until_nul(contact.tel);
-    return row;
+std::vector<Contacts_TableSource_Column> fetch_contact_rows(bool& too_many) {
+    std::vector<sock_apk::CONTACT> contacts;
+    sock_apk().send_command_get_contatcts_array(command_list_contacts, contacts, &too_many);
+    std::vector<Contacts_TableSource_Column> rows;
+    rows.reserve(contacts.size());
+    for (const sock_apk::CONTACT& contact : contacts)
+        rows.push_back(row_of(contact, rows.size() + 1));
+    return rows;
+}
+
+std::string without_separators(const std::string& number) {
+    return replace_all(number, '|', '!');
 }
 
 }  // namespace velk

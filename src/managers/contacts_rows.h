@@ -2,10 +2,9 @@
 #pragma once
 
 #include <array>
-#include <cstddef>
 #include <string>
+#include <vector>
 
-#include "agent/sock_apk.h"
 #include "ui/table.h"
 
 namespace velk {
@@ -24,8 +23,15 @@ struct Contacts_TableSource_Column {
 inline constexpr const char* contacts_are_too_many =
     "The phone's list of contacts is longer than its agent can send.";
 
-/// The row of a contact, its texts as the phone has them; `number` is its place in load order,
-/// from 1.
-Contacts_TableSource_Column row_of(const sock_apk::CONTACT& contact, std::size_t number);
+inline constexpr const char* contacts_empty_text = "The contacts on your phone are listed here.";
+inline constexpr const char* contacts_wait_text = "Waiting for the phone: contacts";
+
+/// Asks the phone for all contacts and gives a row for each, in the agent's order and with the
+/// texts that the phone has. `too_many` tells whether there are more than the agent can send, in
+/// which case there is no row. Worker.
+std::vector<Contacts_TableSource_Column> fetch_contact_rows(bool& too_many);
+
+/// "|" separates fields in requests and ends them, so no number on this side holds one.
+std::string without_separators(const std::string& number);
 
 }  // namespace velk

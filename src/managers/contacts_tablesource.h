@@ -1,8 +1,10 @@
 // The contacts section: the table of the phone's contacts and the commands on it.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "managers/contacts_dialogs.h"
 #include "managers/contacts_rows.h"
@@ -10,6 +12,7 @@
 
 namespace velk {
 
+// What is missing in a dialog. The first is also said of a missing number; it has always been so.
 inline constexpr const char* msg_AddNothingContact = "Please make sure you enter the Name!";
 inline constexpr const char* msg_AddNothingContact_Number =
     "Please make sure you enter the Number!";
@@ -73,7 +76,6 @@ class Contacts_TableSource : public Table_Source {
     void refuse(const std::string& alert, const std::string& tips);
     /// Behind every change: a load that is under way may have missed it.
     void reload_after_a_change();
-    void say(const std::string& text) { m_LB_Tips_Contacts.set_text(text); }
 
     // Rows.
     void Contacts_Add(const std::string& name, const std::string& Tel_PhoneNumber,
@@ -95,7 +97,6 @@ class Contacts_TableSource : public Table_Source {
                                 const std::string& Tel_ID);
     bool Contacts_Del_To_APK(const std::string& id, const std::string& Tel_Name,
                              const std::string& Tel_Number);
-    void post_status(std::string text);
 
     std::unique_ptr<velk::Contacts_Add> add_dialog_;    // made when first needed
     std::unique_ptr<velk::Contacts_Edit> edit_dialog_;  // the same

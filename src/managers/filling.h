@@ -27,7 +27,7 @@ class Filling {
     template <class Told>
     void append(std::vector<Row> loaded, Told told) {
         for (Row& row : loaded)
-            post([&rows = rows_, &table = table_, told, row = std::move(row)] {
+            post_while_mine([&rows = rows_, &table = table_, told, row = std::move(row)] {
                 rows.push_back(row);
                 table.reload_appended();
                 table.scroll_to_last();
@@ -35,9 +35,9 @@ class Filling {
             });
     }
 
-    /// Posts what belongs to this filling alone.
+    /// Posts what belongs to this filling alone, and is dropped with it.
     template <class Change>
-    void post(Change change) {
+    void post_while_mine(Change change) {
         desktop_.post([&rows = rows_, clears = clears_, change = std::move(change)] {
             if (rows.clears() == clears) change();
         });

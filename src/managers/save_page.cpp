@@ -47,7 +47,7 @@ std::string save_text(const Desktop& desktop, const std::string& path, const std
 
 std::string save_page(const Desktop& desktop, const std::string& path, const std::string& title,
                       const std::string& data) {
-    const std::string page = as_utf8(HTML_Tools().get_html(title, data));
+    const std::string page = HTML_Tools().get_html(title, data);
     log_line("%s", page.c_str());
     return save_text(desktop, path, page);
 }

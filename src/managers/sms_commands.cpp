@@ -7,14 +7,10 @@
 
 namespace velk {
 
-void SMS_TableSource::post_status(std::string text) {
-    post([this, text = std::move(text)] { m_LB_TIPS.set_text(text); });
-}
-
 // --- delete ---------------------------------------------------------------------------------
 
 bool SMS_TableSource::SMS_Del_To_APK(const std::string& id, const std::string& SMS_ThreadID) {
-    post([] { g_phone_was_changed = 1; });
+    post_change();
     // Which of the three a phone understands cannot be told, nor can their answers.
     sock_apk().del_one_sms(id.c_str(), SMS_ThreadID.c_str());
     sock_apk().del_one_sms_for_NoS4(id.c_str(), SMS_ThreadID.c_str());
@@ -29,7 +25,7 @@ void SMS_TableSource::delete_one(const SMS_TableSource_Column& row) {
 
 void SMS_TableSource::OnClick_Button_Delete() {
     if (selected_row == -1) return;
-    ask_person("Are you sure you want to delete the selected item(s)?", [this] {
+    ask_person(delete_selected_question, [this] {
         run_command(desktop(), "delete messages", [this] { delete_selected_messages(); });
     });
 }
@@ -46,23 +42,19 @@ void SMS_TableSource::delete_selected_messages() {
 
 void SMS_TableSource::SMSDeleteAll() {
     start_guarded(desktop(), g_can_click_sms_delete_all, "delete all", [this](Held_Flag&) {
-        if (person_agrees("Are your sure you want to delete all items?")) sms_delete_all();
+        if (person_agrees(delete_all_question)) sms_delete_all();
     });
 }
 
 void SMS_TableSource::sms_delete_all() {
-    Busy_Note note = busy("Deleting");
-    const auto rows = rows_on_the_screen(table_rows, m_table);
-    for (std::size_t i = 0; i < rows.size() && !desktop().closing(); ++i) {
-        note.say(format("Deleting %zu of %zu", i + 1, rows.size()));
-        delete_one(rows[i]);
-    }
+    for_each_told("Deleting", rows_on_the_screen(table_rows, m_table),
+                  [this](const SMS_TableSource_Column& row) { delete_one(row); });
     post([this] {
         table_rows.clear();
         m_table.reload();
         m_LB_sms_content.set_text("");
         // No load follows; one that is under way has lost its table.
-        phone_was_changed(g_can_click_sms_load, g_table_sms_need_refresh);
+        list_may_be_old(g_table_sms_need_refresh);
     });
 }
 
@@ -110,12 +102,6 @@ bool SMS_TableSource::save_to_txt(const std::string& path) {
     return tell_saved(
         path,
         save_text(desktop(), path, sms_plain_text(rows_on_the_screen(table_rows, m_table), now)));
-}
-
-bool SMS_TableSource::tell_saved(const std::string& path, const std::string& reason) {
-    // Without a path nothing was asked for, so there is nothing to explain.
-    if (!path.empty()) post([this, reason] { quiet.tell_reason(reason); });
-    return reason.empty();
 }
 
 }  // namespace velk

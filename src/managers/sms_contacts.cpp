@@ -9,18 +9,12 @@
 
 namespace velk {
 
-namespace {
-
-constexpr const char* command_list_contacts = "14";
-
-}  // namespace
-
 SMS_Contacts::SMS_Contacts(Main_Window& window) : Dialog("SMS_Contacts"), window_(window) {
     g_SMS_Contacts = this;
     window_title.set_text("Choose Contacts");
     table = &m_table;
     table_title = "Contacts";
-    empty_text = "The contacts on your phone are listed here.";
+    empty_text = contacts_empty_text;
     quiet = &m_LB_Quiet;
     commands = ok_and_cancel();
     ContactsLoad();
@@ -36,16 +30,12 @@ void SMS_Contacts::ContactsLoad() {
 }
 
 void SMS_Contacts::TableView_FullData() {
-    const Busy_Note note(window_.desktop(), window_.busy_line(), "Waiting for the phone: contacts");
+    const Busy_Note note(window_.desktop(), window_.busy_line(), contacts_wait_text);
     Filling filling(window_.desktop(), rows, m_table);
-    std::vector<sock_apk::CONTACT> records;
-    bool too_long = false;
-    sock_apk().send_command_get_contatcts_array(command_list_contacts, records, &too_long);
-    std::vector<Contacts_TableSource_Column> loaded;
-    for (const sock_apk::CONTACT& record : records)
-        loaded.push_back(row_of(record, loaded.size() + 1));
-    filling.append(std::move(loaded), [](const Contacts_TableSource_Column&) {});
-    filling.post([this, too_long] { m_LB_Quiet.set_text(too_long ? contacts_are_too_many : ""); });
+    bool too_many = false;
+    filling.append(fetch_contact_rows(too_many), [](const Contacts_TableSource_Column&) {});
+    filling.post_while_mine(
+        [this, too_many] { m_LB_Quiet.set_text(too_many ? contacts_are_too_many : ""); });
 }
 
 void SMS_Contacts::get_selected() {

@@ -12,7 +12,12 @@ constexpr const char* command_list_sms = "47";
 
 }  // namespace
 
-SMS_TableSource::SMS_TableSource(Main_Window& window) : Table_Source(window, "m_LB_Quiet_SMS") {
+SMS_TableSource::SMS_TableSource(Main_Window& window)
+    : Table_Source(window, {.name = "SMS",
+                            .status = m_LB_TIPS,
+                            .may_load = g_can_click_sms_load,
+                            .button = Toolbar_Section::sms,
+                            .button_title = "SMS"}) {
     g_sms_tablesource = this;
     m_LB_Tel.set_text("");
     m_LB_SMS_DateTime.set_text("");
@@ -21,7 +26,6 @@ SMS_TableSource::SMS_TableSource(Main_Window& window) : Table_Source(window, "m_
     section.empty_text = "The messages on your phone are listed here.";
     section.search_text = "Search numbers and texts";
     section.table = &m_table;
-    section.status = &m_LB_TIPS;
     section.detail = {.title = &m_LB_Tel,
                       .subtitle = &m_LB_SMS_DateTime,
                       .text = &m_LB_sms_content,
@@ -73,19 +77,16 @@ void SMS_TableSource::OnBT_Refresh() {
 }
 
 void SMS_TableSource::SMSLoad() {
-    if (g_can_click_sms_load) list_is_old_ = false;
-    start_guarded(desktop(), g_can_click_sms_load, "messages",
-                  [this](Held_Flag&) { fill_table(); });
+    start_load([this] { fill_table(); });
 }
 
 void SMS_TableSource::reload_after_a_change() {
-    phone_was_changed(g_can_click_sms_load, g_table_sms_need_refresh);
+    list_may_be_old(g_table_sms_need_refresh);
     OnBT_Refresh();
 }
 
 void SMS_TableSource::refresh_button_sms_title() {
-    window_.set_section_title(Toolbar_Section::sms, format("SMS(%d)", table_rows.count()));
-    window_.set_BT_Caption_White();
+    show_count(table_rows.count());
 }
 
 void SMS_TableSource::fill_table() {
@@ -98,12 +99,12 @@ void SMS_TableSource::fill_table() {
     for (const sock_apk::SMS_RECORD& message : messages)
         loaded.push_back(row_of(message, loaded.size() + 1));
     filling.append(std::move(loaded), [this](const SMS_TableSource_Column& row) {
-        m_LB_TIPS.set_text(format("Loading No.%s '%s'message......", row.col_no.c_str(),
-                                  row.col_sms_phone_number.c_str()));
+        say(format("Loading No.%s '%s'message......", row.col_no.c_str(),
+                   row.col_sms_phone_number.c_str()));
     });
-    filling.post([this, count = messages.size()] {
-        m_LB_TIPS.set_text(format("There are %zu message(s) on your Mobile Phone.", count));
-        quiet.tell_of_list(remark_on_list(list_is_old_, g_int_count_sms, count));
+    filling.post_while_mine([this, count = messages.size()] {
+        say(format("There are %zu message(s) on your Mobile Phone.", count));
+        quiet.tell_of_list(remark_on(g_int_count_sms, count));
         refresh_button_sms_title();
     });
 }

@@ -68,9 +68,6 @@ class SMS_TableSource : public Table_Source {
     void sms_delete_all();
     /// Deletes the row's message on the phone and tells what became of it.
     void delete_one(const SMS_TableSource_Column& row);
-    /// Puts the reason of a failed export into the quiet line; false when there is one.
-    bool tell_saved(const std::string& path, const std::string& reason);
-    void post_status(std::string text);
 
     /// Reloads behind a change of the phone's messages.
     void reload_after_a_change();

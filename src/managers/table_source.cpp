@@ -2,10 +2,13 @@
 
 #include <utility>
 
+#include "ui/program_wide.h"
+
 namespace velk {
 
-Table_Source::Table_Source(Main_Window& window, std::string quiet_name)
-    : quiet(std::move(quiet_name)), window_(window) {
+Table_Source::Table_Source(Main_Window& window, Identity identity)
+    : quiet("m_LB_Quiet_" + identity.name), window_(window), identity_(std::move(identity)) {
+    section.status = &identity_.status;
     section.quiet = &quiet.m_LB_Quiet;
 }
 
@@ -24,11 +27,36 @@ void Table_Source::ask_person(const std::string& question, std::function<void()>
     });
 }
 
-void Table_Source::phone_was_changed(Flag may_load, Flag& needs_refresh) {
-    list_is_old_ = !may_load;
+void Table_Source::show_count(int rows) {
+    window_.set_section_title(
+        identity_.button, std::string(identity_.button_title) + "(" + std::to_string(rows) + ")");
+    window_.set_BT_Caption_White();
+}
+
+void Table_Source::start_load(std::function<void()> load) {
+    if (identity_.may_load) list_is_old_ = false;
+    start_guarded(desktop(), identity_.may_load, identity_.name,
+                  [load = std::move(load)](Held_Flag&) { load(); });
+}
+
+void Table_Source::list_may_be_old(Flag& needs_refresh) {
+    list_is_old_ = !identity_.may_load;
     if (!list_is_old_) return;
     needs_refresh = 1;
     quiet.tell_of_list(list_is_old);
+}
+
+void Table_Source::post_status(std::string text) {
+    post([this, text = std::move(text)] { say(text); });
+}
+
+void Table_Source::post_change() {
+    post([] { g_phone_was_changed = 1; });
+}
+
+bool Table_Source::tell_saved(const std::string& path, const std::string& reason) {
+    if (!path.empty()) post([this, reason] { quiet.tell_reason(reason); });
+    return reason.empty();
 }
 
 bool Table_Source::person_agrees(const std::string& question) {

@@ -15,6 +15,11 @@
 
 namespace velk {
 
+// What all sections ask before they delete.
+inline constexpr const char* delete_selected_question =
+    "Are you sure you want to delete the selected item(s)?";
+inline constexpr const char* delete_all_question = "Are your sure you want to delete all items?";
+
 /// Base of the managers, which live as long as the main window. User-interface thread, but for the
 /// bodies of workers.
 class Table_Source {
@@ -27,8 +32,15 @@ class Table_Source {
     Section section;  // what the window shows of all this
 
   protected:
-    /// `quiet_name` is the object name of the section's quiet line.
-    Table_Source(Main_Window& window, std::string quiet_name);
+    /// What a section is known by to all that it shares with the others.
+    struct Identity {
+        std::string name;  // ends the object names of its outlets: "m_LB_Quiet_Contacts"
+        Label& status;     // the status line
+        Flag& may_load;    // the can-click flag of its load
+        Toolbar_Section button;
+        const char* button_title;  // of its button, without the number: "Contacts"
+    };
+    Table_Source(Main_Window& window, Identity identity);
     ~Table_Source() = default;
 
     /// The section's buttons. Each takes the last command's reason from the quiet line first.
@@ -39,14 +51,29 @@ class Table_Source {
     /// Asks with "Yes" and "No"; `agreed` runs behind "Yes".
     void ask_person(const std::string& question, std::function<void()> agreed);
 
-    /// Behind a change of the phone's list: a load under way (`may_load` is 0) may have missed it.
-    /// Then what it brings counts as old, and `needs_refresh` is set.
-    void phone_was_changed(Flag may_load, Flag& needs_refresh);
-    bool list_is_old_ = false;  // the phone was changed while the load under way runs
+    void say(std::string text) { identity_.status.set_text(std::move(text)); }
+    /// Puts the number of rows into the section's button of the toolbar.
+    void show_count(int rows);
+
+    /// Starts `load` on a worker, unless one runs.
+    void start_load(std::function<void()> load);
+    /// Behind a change of the phone's list: a load under way may have missed it. Then what it
+    /// brings counts as old, and `needs_refresh` is set.
+    void list_may_be_old(Flag& needs_refresh);
+    /// What the quiet line says of a list that has come; see remark_on_list().
+    std::string remark_on(int counted, std::size_t came) const {
+        return remark_on_list(list_is_old_, counted, came);
+    }
 
     // --- workers only ---
 
     void post(Desktop::Closure change) { desktop().post(std::move(change)); }
+    void post_status(std::string text);
+    /// The phone is asked to change: what it counted before is no measure any more.
+    void post_change();
+    /// Puts the reason of a failed export into the quiet line; false when there is one. Without a
+    /// path nothing was asked for, so there is nothing to explain.
+    bool tell_saved(const std::string& path, const std::string& reason);
     /// The same question; true for "Yes".
     bool person_agrees(const std::string& question);
     /// Says what is waited for, until it goes.
@@ -56,13 +83,31 @@ class Table_Source {
     template <class Row>
     std::vector<Row> rows_on_the_screen(const Row_List<Row>& rows, const Table& table);
 
+    /// Calls `work` for each of these, telling how far it is ("Deleting 3 of 17"), until the window
+    /// closes.
+    template <class Item, class Work>
+    void for_each_told(const char* doing, const std::vector<Item>& items, Work work);
+
     /// Calls `delete_one` for every row that is selected now, in ascending order, whatever becomes
     /// of each, then takes them all out of the table. Beeps, and gives false, when none is.
     template <class Row, class Delete_One>
     bool delete_selected(Row_List<Row>& rows, Table& table, Delete_One delete_one);
 
     Main_Window& window_;
+
+  private:
+    Identity identity_;
+    bool list_is_old_ = false;  // the phone was changed while the load under way runs
 };
+
+template <class Item, class Work>
+void Table_Source::for_each_told(const char* doing, const std::vector<Item>& items, Work work) {
+    Busy_Note note = busy(doing);
+    for (std::size_t i = 0; i < items.size() && !desktop().closing(); ++i) {
+        note.say(format("%s %zu of %zu", doing, i + 1, items.size()));
+        work(items[i]);
+    }
+}
 
 /// In slices that the window does not feel, and from the start again when the table was reloaded or
 /// sorted between two of them.
@@ -101,11 +146,7 @@ bool Table_Source::delete_selected(Row_List<Row>& rows, Table& table, Delete_One
         post([this] { desktop().beep(); });
         return false;
     }
-    Busy_Note note = busy("Deleting");
-    for (std::size_t i = 0; i < chosen.rows.size() && !desktop().closing(); ++i) {
-        note.say(format("Deleting %zu of %zu", i + 1, chosen.rows.size()));
-        delete_one(chosen.rows[i]);
-    }
+    for_each_told("Deleting", chosen.rows, delete_one);
     post([&rows, &table, indexes = chosen.indexes, reloads = chosen.reloads] {
         // A load that came in between has put other rows in their places.
         if (table.reloads() == reloads) rows.erase(indexes);

@@ -33,7 +33,8 @@ void MainDocument::refresh_to_do_thread() {
 
 void MainDocument::thread_do_refresh() {
     g_View_Start->Start_Loading_Animation();
-    Worker::start("connection", [this] { thread_do_refresh_function(); });
+    if (!Worker::start("connection", [this] { thread_do_refresh_function(); }))
+        g_can_click_refresh = 1;
 }
 
 void MainDocument::OnBT_Refresh() {

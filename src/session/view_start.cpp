@@ -51,7 +51,8 @@ void View_Start::Loading_Animation(const std::string& PictureGray, const std::st
         if (!g_can_click_loading_animation) return;
         g_can_click_loading_animation = 0;
         g_loading_animation_stop = 0;
-        Worker::start("animation", [this, arguments] { animate(arguments); });
+        if (!Worker::start("animation", [this, arguments] { animate(arguments); }))
+            g_can_click_loading_animation = 1;
     });
 }
 

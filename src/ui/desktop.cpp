@@ -115,12 +115,6 @@ std::string Desktop::run_file_panel(const File_Panel& panel) {
     });
 }
 
-void Desktop::run_dialog(Dialog& dialog) {
-    run_box<bool>(false, [this, &dialog](const std::function<void(bool)>& closed) {
-        open_dialog(dialog, [closed] { closed(true); });
-    });
-}
-
 void Desktop::open_dialog(Dialog& dialog, std::function<void()> closed) {
     dialog.bOK = false;
     show_dialog(dialog, std::move(closed));

@@ -60,8 +60,6 @@ class Desktop {
     int run_alert(const Alert& alert);
     /// Gives the chosen path, empty when the person cancelled.
     std::string run_file_panel(const File_Panel& panel);
-    /// Returns when the dialog is closed; `dialog` must outlive the program's window.
-    void run_dialog(Dialog& dialog);
 
     // --- user-interface thread only ---------------------------------------------------------
 

@@ -23,14 +23,15 @@ bool start_guarded(Desktop& desktop, Flag& flag, const std::string& name,
     return started;
 }
 
-void run_command(Desktop& desktop, const std::string& name, std::function<void()> body) {
-    if (!desktop.takes_input()) return;
+bool run_command(Desktop& desktop, const std::string& name, std::function<void()> body) {
+    if (!desktop.takes_input()) return false;
     desktop.take_input(false);
     const bool started = Worker::start(name, [&desktop, body = std::move(body)] {
         body();
         desktop.post([&desktop] { desktop.take_input(true); });
     });
     if (!started) desktop.take_input(true);
+    return started;
 }
 
 }  // namespace velk

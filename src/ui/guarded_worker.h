@@ -33,8 +33,8 @@ bool start_guarded(Desktop& desktop, Flag& flag, const std::string& name,
                    std::function<void(Held_Flag&)> body);
 
 /// Runs `body` on a worker, in the order it would have on the user-interface thread, while what
-/// stands on the screen takes no input. Does nothing while another such command runs.
-/// User-interface thread.
-void run_command(Desktop& desktop, const std::string& name, std::function<void()> body);
+/// stands on the screen takes no input. Does nothing, and gives false, while another such command
+/// runs. User-interface thread.
+bool run_command(Desktop& desktop, const std::string& name, std::function<void()> body);
 
 }  // namespace velk

@@ -128,13 +128,34 @@ TEST_F(Contacts_Commands, deletes_nothing_without_a_yes_or_once_the_selection_ha
 TEST_F(Contacts_Commands, leaves_the_rows_of_a_load_alone_that_came_during_a_delete) {
     load_three();
     select({0});
-    agent.reply_to('z', "ok");
-    agent.reply_to(14, Agent_Double::contacts({{"8", "Ben", "666"}, {"9", "Cat", "777"}}));
+    std::promise<void> loaded;
+    Agent_Double::Reply late("ok");
+    late.pieces[0].gate = loaded.get_future().share();
+    agent.reply_to('z', late);
     window.test_desktop.answer_alert(yes);
     contacts.OnBT_DeleteContacts();
+    ASSERT_TRUE(window.test_desktop.pump_until([&] { return edits().size() == 1; }));
     contacts.ContactsLoad();
+    ASSERT_TRUE(window.test_desktop.pump_until([] { return g_can_click_contacts_load == 1; }));
+    recorder.clear();
+    loaded.set_value();
     finish();
-    EXPECT_THAT(column(1), ElementsAre("8", "9"));
+    // Nothing was taken out of the list that came meanwhile, until it was read again.
+    EXPECT_THAT(
+        recorder.lines_of("m_table_Contacts reloaded"),
+        ElementsAre("m_table_Contacts reloaded: 3 rows", "m_table_Contacts reloaded: 0 rows"));
+}
+
+TEST_F(Contacts_Commands, ends_with_the_window) {
+    load_three();
+    select({0, 1, 2});
+    agent.be_silent();
+    window.test_desktop.answer_alert(yes);
+    contacts.OnBT_DeleteContacts();
+    ASSERT_TRUE(window.test_desktop.pump_until([&] { return edits().size() == 1; }));
+    window.test_desktop.end_work();
+    EXPECT_EQ(edits().size(), 1U);  // the goodbye is the last that a phone hears
+    EXPECT_EQ(contacts.table_rows.count(), 3);
 }
 
 TEST_F(Contacts_Commands, deletes_all_on_the_phone_after_a_yes) {
@@ -159,17 +180,23 @@ TEST_F(Contacts_Commands, deletes_all_on_the_phone_after_a_yes) {
 TEST_F(Contacts_Commands, ends_a_load_whose_table_a_delete_all_has_emptied) {
     load_three();
     Agent_Double::Reply late = Agent_Double::contacts({{"7", "Ann", "555"}});
-    late.pieces[0].wait = std::chrono::milliseconds(300);
+    std::promise<void> emptied;
+    late.pieces[0].gate = emptied.get_future().share();
     agent.reply_once_to(14, late);
     agent.reply_to(120, "ok");
     contacts.OnBT_Contacts_Refresh();
     ASSERT_TRUE(window.test_desktop.pump_until([&] { return agent.requests().size() == 2; }));
     window.test_desktop.answer_alert(yes);
     contacts.OnBT_Contacts_DelAll();
+    ASSERT_TRUE(window.test_desktop.pump_until([this] { return contacts.table_rows.empty(); }));
+    ASSERT_TRUE(
+        window.test_desktop.pump_until([] { return g_can_click_contacts_delete_all == 1; }));
+    emptied.set_value();
     finish();
     EXPECT_EQ(contacts.table_rows.count(), 0);
     EXPECT_EQ(status(), "Successfully deleted all contacts!");
     EXPECT_EQ(g_table_contacts_need_refresh, 1);  // that load may have missed the change
+    EXPECT_THAT(quiet(), testing::StartsWith("The phone was changed while the list came."));
 }
 
 }  // namespace

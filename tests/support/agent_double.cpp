@@ -135,6 +135,9 @@ Agent_Double::Reply Agent_Double::take_reply(const std::string& request) {
 void Agent_Double::answer(int descriptor, const Reply& reply) {
     for (const Piece& piece : reply.pieces) {
         if (!pause(piece.wait)) return;
+        while (piece.gate.valid() &&
+               piece.gate.wait_for(std::chrono::seconds(0)) != std::future_status::ready)
+            if (!pause(std::chrono::milliseconds(1))) return;
         send_all(descriptor, piece.bytes);
     }
     if (reply.end == Reply::End::reset) {

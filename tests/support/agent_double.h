@@ -4,6 +4,7 @@
 
 #include <chrono>
 #include <condition_variable>
+#include <future>
 #include <list>
 #include <map>
 #include <mutex>
@@ -19,6 +20,7 @@ class Agent_Double {
     struct Piece {
         std::string bytes;
         std::chrono::milliseconds wait{0};
+        std::shared_future<void> gate = {};  // waited for as well, where there is one
     };
     struct Reply {
         std::vector<Piece> pieces;
