@@ -18,10 +18,10 @@ constexpr int longest_message = 140;  // UTF-16 code units
 constexpr char entry_end = ';';
 
 /// Takes the text up to the next ";" off `rest`, and that too.
-std::string take_entry(std::string& rest) {
-    const std::size_t end = rest.find(entry_end);
-    const std::string entry = rest.substr(0, end);
-    rest.erase(0, end == std::string::npos ? end : end + 1);
+std::string take_entry(std::string_view& rest) {
+    const std::size_t end = std::min(rest.find(entry_end), rest.size());
+    const std::string entry(rest.substr(0, end));
+    rest.remove_prefix(std::min(end + 1, rest.size()));
     return entry;
 }
 
@@ -75,7 +75,7 @@ void SMS_Send::take_picked() {
 void SMS_Send::refresh_contacts(const std::string& recipients) {
     // All are gathered before one is added: an entry is known by those that were there before.
     std::vector<sock_apk::CONTACT> typed;
-    for (std::string rest = recipients;;) {
+    for (std::string_view rest = recipients;;) {
         const std::string entry = take_entry(rest);
         log_line("value =%s", entry.c_str());
         if (entry.empty()) break;
