@@ -20,8 +20,8 @@ bool would_replace_a_file(const std::string& path) {
 
 bool person_lets_replace(Desktop& desktop, const std::string& path) {
     const std::string name = std::filesystem::path(path).filename().string();
-    return desktop.run_alert(yes_or_no("There is a file \"" + name + "\" already. Replace it?")) ==
-           yes;
+    return desktop.run_alert(yes_or_no(
+               format("There is a file \"%s\" already. Replace it?", name.c_str()))) == yes;
 }
 
 }  // namespace
