@@ -10,7 +10,7 @@
 namespace velk {
 
 // Each opens its box and returns at once; `front` is what stands foremost, or nothing. A box that
-// is closed deletes itself; who deletes an open one drops its callback uncalled.
+// is closed deletes itself.
 
 /// `answered` gets the index of the pressed button.
 QDialog* open_alert_box(QWidget* front, const Alert& alert, std::function<void(int)> answered);

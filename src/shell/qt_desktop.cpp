@@ -38,7 +38,7 @@ void Qt_Desktop::set_window(QWidget* window) {
 void Qt_Desktop::lead_keys_to_front(const QWindow* focused) const {
     QWidget* const box = QApplication::activeModalWidget();
     if (!box || !focused || !window_ || box->windowHandle() == focused) return;
-    const auto is_focused = [focused](const QPointer<QWidget>& window) {
+    const auto is_focused = [focused](const QWidget* window) {
         return window && window->windowHandle() == focused;
     };
     if (is_focused(window_) || std::any_of(boxes_.begin(), boxes_.end(), is_focused))
@@ -50,8 +50,8 @@ QWidget* Qt_Desktop::front() const {
     return box ? box : window_.data();
 }
 
-void Qt_Desktop::keep(QWidget* box) {
-    std::erase_if(boxes_, [](const QPointer<QWidget>& old) { return old.isNull(); });
+void Qt_Desktop::keep(QDialog* box) {
+    std::erase_if(boxes_, [](const QPointer<QDialog>& old) { return old.isNull(); });
     boxes_.emplace_back(box);
 }
 
@@ -78,10 +78,19 @@ void Qt_Desktop::show_dialog(Dialog& dialog, std::function<void()> closed) {
     window->open();
 }
 
+// A box may be about to act on the click that stands behind this: it goes from the screen, but
+// lives until the event loop is reached again.
 void Qt_Desktop::drop_boxes() {
     boxes_dropped_ = true;
-    for (const QPointer<QWidget>& box : boxes_) delete box.data();
-    boxes_.clear();
+    while (!boxes_.empty()) {
+        const QPointer<QDialog> box = boxes_.back();
+        boxes_.pop_back();
+        if (!box) continue;
+        disconnect(box, &QDialog::finished, nullptr, nullptr);
+        for (auto* const before : box->findChildren<QDialog*>(Qt::FindDirectChildrenOnly))
+            if (before->isVisible()) before->reject();
+        box->reject();
+    }
 }
 
 void Qt_Desktop::beep() {

@@ -1,6 +1,7 @@
 // The window system behind the program's Desktop.
 #pragma once
 
+#include <QDialog>
 #include <QObject>
 #include <QPointer>
 #include <QWidget>
@@ -43,12 +44,12 @@ class Qt_Desktop : public QObject, public Desktop {
   private:
     /// What stands foremost: the box that was opened last, else the window.
     QWidget* front() const;
-    void keep(QWidget* box);
+    void keep(QDialog* box);
     /// The second of two quick clicks may give the keys back to a window behind a box.
     void lead_keys_to_front(const QWindow* focused) const;
 
     QPointer<QWidget> window_;
-    std::vector<QPointer<QWidget>> boxes_;  // that are open
+    std::vector<QPointer<QDialog>> boxes_;  // that are open, each behind the next
     bool boxes_dropped_ = false;
     Input_Hold input_hold_;
 };

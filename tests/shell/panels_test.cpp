@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QDialogButtonBox>
 #include <QFileDialog>
+#include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QTemporaryDir>
@@ -70,6 +71,7 @@ class Panel_Test : public testing::Test {
             box->findChild<QLineEdit*>("fileNameEdit")->setText(folder.filePath(name));
             box->findChild<QDialogButtonBox*>()->buttons().at(0)->click();
         }
+        if (path == "not answered") open.desktop.drop_boxes();
         open.turn();
         return path;
     }
@@ -92,6 +94,25 @@ TEST_F(Panel_Test, gives_the_path_that_was_chosen_and_none_when_cancelled) {
     EXPECT_EQ(choose(either, "folder"), full("folder"));
     EXPECT_EQ(choose(folders, "folder"), full("folder"));
     for (const File_Panel& panel : {save, either, folders}) EXPECT_EQ(choose(panel, ""), "");
+}
+
+// A loop of its own, from which the panel would be deleted under the toolkit's feet.
+TEST_F(Panel_Test, goes_with_the_window_while_it_says_that_a_name_does_not_exist) {
+    EXPECT_EQ(choose({}, "missing"), "not answered");
+    EXPECT_FALSE(QApplication::activeModalWidget());
+}
+
+TEST_F(Panel_Test, makes_folders_and_neither_renames_nor_deletes) {
+    open.desktop.open_file_panel({}, [](const std::string&) {});
+    auto* const box = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    box->setDirectory(folder.path());
+    EXPECT_TRUE(box->testOption(QFileDialog::ReadOnly));
+    box->findChild<QAbstractButton*>("new_folder")->click();
+    auto* const asking = qobject_cast<QInputDialog*>(QApplication::activeModalWidget());
+    ASSERT_TRUE(asking);
+    asking->setTextValue("made");
+    asking->accept();
+    EXPECT_EQ(box->directory().path(), folder.filePath("made"));
 }
 
 }  // namespace
