@@ -11,6 +11,7 @@ struct Binding::Bound {
     QPointer<QObject> target;
     std::function<void()> show;
     bool changed = false;
+    Outlet::Observation observation = {};
 };
 
 namespace {
@@ -25,8 +26,7 @@ void Binding::bind(Outlet& outlet, QObject* target, std::function<void()> show) 
     bound->show = std::move(show);
     bounds_.push_back(bound);
     bound->show();
-    // The outlet may outlive the window: it only knows its half, which goes with the Binding.
-    outlet.observe([this, weak = std::weak_ptr<Bound>(bound)](const Outlet&) {
+    bound->observation = outlet.observe([this, weak = std::weak_ptr<Bound>(bound)](const Outlet&) {
         if (const auto still_bound = weak.lock()) mark(still_bound);
     });
 }

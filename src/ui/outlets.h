@@ -5,7 +5,9 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace velk {
@@ -35,8 +37,9 @@ class Outlet {
     /// what it was.
     const std::string& last_change() const { return last_change_; }
 
-    /// Observers live as long as the outlet.
-    void observe(Observer observer) { observers_.push_back(std::move(observer)); }
+    /// What is observed, as long as it is kept; it may outlive the outlet.
+    using Observation = std::shared_ptr<const Observer>;
+    [[nodiscard]] Observation observe(Observer observer);
 
   protected:
     void changed(const char* what = "value");
@@ -50,7 +53,7 @@ class Outlet {
     std::string name_;
     bool hidden_ = false;
     std::string last_change_;
-    std::vector<Observer> observers_;
+    std::vector<std::weak_ptr<const Observer>> observers_;
 };
 
 /// A text: a status line, a value, a caption. UTF-8, or whatever bytes the phone sent.

@@ -32,7 +32,7 @@ class Start_View : public Session {
 
 TEST_F(Start_View, freezes_with_its_last_point_lit_after_99_steps_and_starts_again) {
     std::vector<int> lit;
-    view.m_Image_loading_4.observe([&](const Outlet& last) {
+    const auto watching = view.m_Image_loading_4.observe([&](const Outlet& last) {
         if (last.last_change() == "picture") lit.push_back(lit_point());
     });
     view.Start_Loading_Animation();

@@ -41,8 +41,8 @@ TEST_F(Velk_Window_Test, shows_every_value_of_a_phone_under_its_name) {
 
 TEST_F(Velk_Window_Test, draws_a_status_line_that_changes_often_only_as_often_as_it_is_seen) {
     int drawn = 0;
-    Binding binding;
     Label label("label");
+    Binding binding;
     QObject target;
     binding.bind(label, &target, [&] { ++drawn; });
     for (int i = 0; i < 20'000; ++i) label.set_text(std::to_string(i));

@@ -7,11 +7,12 @@
 namespace velk {
 
 void Outlet_Recorder::watch(Outlet& outlet, std::function<std::string()> describe) {
-    outlet.observe([this, describe = std::move(describe)](const Outlet& changed) {
-        const bool visibility = changed.last_change() == "hidden";
-        note(changed.name() +
-             (visibility ? (changed.hidden() ? " hidden" : " shown") : describe()));
-    });
+    watched_.push_back(
+        outlet.observe([this, describe = std::move(describe)](const Outlet& changed) {
+            const bool visibility = changed.last_change() == "hidden";
+            note(changed.name() +
+                 (visibility ? (changed.hidden() ? " hidden" : " shown") : describe()));
+        }));
 }
 
 void Outlet_Recorder::watch(Label& label) {

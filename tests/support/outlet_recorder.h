@@ -37,6 +37,7 @@ class Outlet_Recorder {
 
   private:
     std::vector<std::string> lines_;
+    std::vector<Outlet::Observation> watched_;
 };
 
 }  // namespace velk

@@ -65,6 +65,17 @@ TEST(Desktop, ClosingTheGateLetsEveryWaitingWorkerGo) {
     }
 }
 
+TEST(Outlets, AreNotObservedOnceTheObserverHasGoneAndMayGoFirst) {
+    int seen = 0;
+    auto label = std::make_unique<Label>("m_LB");
+    auto first = label->observe([&](const Outlet&) { ++seen; });
+    const auto second = label->observe([&](const Outlet&) { first.reset(); });
+    label->set_text("a");
+    label->set_text("b");
+    EXPECT_EQ(seen, 1);
+    label.reset();
+}
+
 TEST(OutletsDeathTest, AWorkerThatWritesOneDirectlyIsCaught) {
     testing::FLAGS_gtest_death_test_style = "threadsafe";
     EXPECT_DEBUG_DEATH(
