@@ -21,6 +21,16 @@ namespace {
 
 constexpr int space_in_a_row = 14;
 constexpr int space_beside_a_cell = 12;
+/// The view looks through all of them for each cell it paints: so many take 8 ms, which leaves it
+/// time to be scrolled. Only a search that ends scatters as many.
+constexpr int most_selected_pieces = 3000;
+constexpr int most_letters_of_a_cell = 500;  // more than the widest screen has room for
+
+/// One line of what may be a text of many pages, of which the rest has no room in any case.
+QString start_of(const QString& text) {
+    if (text.size() <= most_letters_of_a_cell) return one_line(text);
+    return one_line(text.left(most_letters_of_a_cell)) + u'…';
+}
 
 /// Cells are one line of text; a right-to-left text is set from its own side but keeps its place,
 /// and a text without room is told in full by the tool tip.
@@ -29,7 +39,7 @@ class Cell_Delegate : public QStyledItemDelegate {
     using QStyledItemDelegate::QStyledItemDelegate;
 
     QString displayText(const QVariant& value, const QLocale&) const override {
-        return one_line(value.toString());
+        return start_of(value.toString());
     }
 
     bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
@@ -38,7 +48,7 @@ class Cell_Delegate : public QStyledItemDelegate {
             return QStyledItemDelegate::helpEvent(event, view, option, index);
         const QString text = index.data().toString();
         const int room = option.rect.width() - 2 * space_beside_a_cell;
-        const bool fits = view->fontMetrics().horizontalAdvance(text) <= room;
+        const bool fits = view->fontMetrics().horizontalAdvance(start_of(text)) <= room;
         QToolTip::showText(event->globalPos(), fits ? QString() : plain_tool_tip(text), view);
         return true;
     }
@@ -111,7 +121,8 @@ void Row_Table::set_up_columns() {
 
 void Row_Table::show_changes() {
     model_->catch_up();
-    if (std::exchange(rows_, table_.rows().count()) != rows_ && sorted_column_ != none) {
+    const int rows_before = std::exchange(rows_, table_.rows().count());
+    if (rows_ != rows_before && sorted_column_ != none) {
         sorted_column_ = none;  // rows that have come since are not sorted
         show_arrow();
     }
@@ -138,8 +149,12 @@ void Row_Table::report_selection() {
     table_.select(std::move(rows), last);
 }
 
-// Rows of a model that starts anew have lost their selection in the view, not in the table.
+// Rows of a model that starts anew have lost their selection in the view, not in the table. Once
+// the row that a command would act on is out of sight, nothing is selected.
 void Row_Table::restore_selection() {
+    const int last = table_.selected_row();
+    const int current = last == none ? none : model_->view_row(last);
+    if (current == none) return table_.select({}, none);
     std::vector<int> kept;
     QItemSelection ranges;
     for (const int row : table_.selected_rows()) {
@@ -152,14 +167,12 @@ void Row_Table::restore_selection() {
             ranges.last() = {ranges.last().topLeft(),
                              model_->index(place, model_->columnCount() - 1)};
     }
-    const int last = table_.selected_row();
-    const int current = last == none ? none : model_->view_row(last);
+    if (ranges.size() > most_selected_pieces) return table_.select({}, none);
     by_itself_ = true;
     selectionModel()->select(ranges, QItemSelectionModel::ClearAndSelect);
-    if (current != none)
-        selectionModel()->setCurrentIndex(model_->index(current, 0), QItemSelectionModel::NoUpdate);
+    selectionModel()->setCurrentIndex(model_->index(current, 0), QItemSelectionModel::NoUpdate);
     by_itself_ = false;
-    table_.select(std::move(kept), current == none ? none : last);
+    table_.select(std::move(kept), last);
 }
 
 void Row_Table::search(const QString& typed) {

@@ -20,7 +20,8 @@ class Row_Table : public QTableView {
     Row_Table(Table& table, Binding& binding, QString empty_text, QWidget* parent = nullptr);
 
     /// Shows the rows that have this text in them, all when it is empty. The same rows stay
-    /// selected, but for those that go from sight.
+    /// selected, but for those that go from sight; none does once the one selected last
+    /// goes, or when they come to lie in too many places for the view to paint them in time.
     void search(const QString& typed);
 
   protected:

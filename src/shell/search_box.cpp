@@ -49,8 +49,9 @@ Search_Box::Search_Box(Row_Table& table, const QString& looks_for, QWidget* pare
 }
 
 void Search_Box::lead_into_the_table() {
+    const bool selected = table_.selectionModel()->hasSelection();
     table_.setFocus(Qt::OtherFocusReason);
-    if (!table_.currentIndex().isValid()) table_.selectRow(0);
+    if (!selected) table_.selectRow(0);
 }
 
 void Search_Box::keyPressEvent(QKeyEvent* event) {

@@ -8,6 +8,13 @@
 
 namespace velk {
 
+namespace {
+
+constexpr int most_letters_in_a_line = 80;
+constexpr int most_letters_of_a_tool_tip = 2000;  // which a screen has room for
+
+}  // namespace
+
 QString one_line(QString text) {
     for (QChar& character : text)
         if (character.category() == QChar::Other_Control || character == QChar::LineSeparator ||
@@ -17,7 +24,12 @@ QString one_line(QString text) {
 }
 
 QString plain_tool_tip(const QString& text) {
-    return Qt::mightBeRichText(text) ? text.toHtmlEscaped() : text;
+    if (text.size() <= most_letters_in_a_line && !Qt::mightBeRichText(text)) return text;
+    const bool too_long = text.size() > most_letters_of_a_tool_tip;
+    const QString told = too_long ? text.left(most_letters_of_a_tool_tip) + u'…' : text;
+    // Only what is marked up is broken into lines.
+    return QStringLiteral("<p style=\"white-space: pre-wrap\">") + told.toHtmlEscaped() +
+           QStringLiteral("</p>");
 }
 
 Text_Label::Text_Label(QWidget* parent) : QLabel(parent) {

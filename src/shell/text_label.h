@@ -46,7 +46,7 @@ class Text_Label : public QLabel {
 /// The text with blanks in the places of line breaks, tabs and the like.
 QString one_line(QString text);
 
-/// `text` as a tool tip that is never taken for markup.
+/// `text` as a tool tip that is never taken for markup; a long one has several lines.
 QString plain_tool_tip(const QString& text);
 
 }  // namespace velk
