@@ -52,7 +52,8 @@ Detail_Pane::Detail_Pane(const Detail& detail, Binding& binding, QWidget* parent
         const bool nothing = !says_something(detail.title) && !says_something(detail.subtitle) &&
                              !says_something(detail.text);
         text->setPlaceholderText(nothing ? shown(detail.empty_text) : QString());
-        if (text->accessibleName().isEmpty()) text->setAccessibleName(shown(detail.empty_text));
+        if (!says_something(detail.text))
+            text->setAccessibleName(nothing ? shown(detail.empty_text) : QStringLiteral("Empty"));
     };
     for (Label* const label : {detail.title, detail.subtitle, detail.text})
         if (label) binding.bind(*label, text, invite);

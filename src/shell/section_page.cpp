@@ -21,7 +21,8 @@ constexpr int space_between_lines = 12;
 
 }  // namespace
 
-// Made in the order in which they stand, which is the order of the Tab key.
+// Put in in the order in which they stand, which is the order of the Tab key. The table is made
+// first, for the search box and the commands need it, and put in in its turn.
 Section_Page::Section_Page(const Section& section, const Window_Parts& parts)
     : section_(section),
       parts_(parts),

@@ -33,13 +33,13 @@ void bind_widget(Binding& binding, Outlet_Type& outlet, Widget* widget, Show sho
     });
 }
 
-/// Does not move the cursor of somebody who is typing.
 /// What was typed, its blanks as they are: toPlainText() makes all of them plain.
 QString typed_in(const QTextEdit* edit) {
     QString text = edit->document()->toRawText();
     return text.replace(QChar::ParagraphSeparator, u'\n').replace(QChar::LineSeparator, u'\n');
 }
 
+/// Does not move the cursor of somebody who is typing.
 void show_in(QTextEdit* edit, const QString& text) {
     if (typed_in(edit) == text) return;
     const QSignalBlocker nobody_types(edit);
@@ -103,6 +103,8 @@ void bind_reading(Binding& binding, Label& outlet, QLineEdit* edit) {
     bind_widget(binding, outlet, edit, [](const Label& from, QLineEdit* to) {
         to->setText(shown(from.text()));
         to->setCursorPosition(0);
+        // Tab does not lead to what has nothing to read.
+        to->setFocusPolicy(from.text().empty() ? Qt::NoFocus : Qt::StrongFocus);
         to->setAccessibleName(shown(from.text()));
     });
 }

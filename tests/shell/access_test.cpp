@@ -3,10 +3,14 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QDialog>
 #include <QLabel>
 #include <QStringList>
+#include <QTableView>
 
+#include "managers/sms_tablesource.h"
 #include "shell/text_label.h"
+#include "ui/program_wide.h"
 #include "window_test.h"
 
 namespace velk {
@@ -39,19 +43,19 @@ class Access : public testing::Test {
         open.fill();
         open.connect();
     }
-    void every_control_has_a_name() {
-        for (auto* const widget : open.window->findChildren<QWidget*>())
+    static void every_control_has_a_name(QWidget& window) {
+        for (auto* const widget : window.findChildren<QWidget*>())
             if (widget->isVisible() && (widget->focusPolicy() & Qt::TabFocus)) {
                 EXPECT_FALSE(name_of(widget).isEmpty()) << widget->objectName().toStdString();
             }
-        for (auto* const label : open.window->findChildren<QLabel*>())
+        for (auto* const label : window.findChildren<QLabel*>())
             if (label->isVisible()) {
                 EXPECT_EQ(name_of(label), label->text());
             }
     }
     /// Elided labels say the rest in their tool tip; everything else must have its room.
-    void nothing_is_clipped() {
-        for (auto* const widget : open.window->findChildren<QWidget*>()) {
+    static void nothing_is_clipped(QWidget& window) {
+        for (auto* const widget : window.findChildren<QWidget*>()) {
             const auto* const label = qobject_cast<QLabel*>(widget);
             const auto* const button = qobject_cast<QAbstractButton*>(widget);
             const bool has_text = !(label    ? label->text()
@@ -70,14 +74,25 @@ class Access : public testing::Test {
     }
     void check_page(const QStringList& controls) {
         open.turn();
-        every_control_has_a_name();
-        EXPECT_EQ(tab_path(*open.window), toolbar + controls);
+        every_control_has_a_name(*open.window);
+        EXPECT_EQ(tab_path(*open.window).join(' ').toStdString(),
+                  (toolbar + controls).join(' ').toStdString());
         for (const QSize size : {QSize(900, 600), QSize(1920, 1080)}) {
             open.window->resize(size);
             open.turn();
             EXPECT_EQ(open.window->size(), size);
-            nothing_is_clipped();
+            nothing_is_clipped(*open.window);
         }
+    }
+
+    void check_dialog(const char* opened_by, const QStringList& controls) {
+        open.click(opened_by);
+        auto* const box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        ASSERT_TRUE(box) << opened_by;
+        every_control_has_a_name(*box);
+        nothing_is_clipped(*box);
+        EXPECT_EQ(tab_path(*box).join(' ').toStdString(), controls.join(' ').toStdString());
+        box->reject();
     }
 
     Open_Window open;
@@ -93,10 +108,28 @@ TEST_F(Access, contacts) {
     check_page({"m_table_Contacts_search", "OnBT_AddContacts", "OnBT_ModifyContacts",
                 "OnBT_DeleteContacts", "OnBT_Contacts_DelAll", "OnBT_Contacts_Refresh",
                 "OnBT_ContactsExport", "OnBT_ContactsImport", "m_table_Contacts"});
+    check_dialog("OnBT_AddContacts",
+                 {"m_Edit_Name", "m_Edit_PhoneNumber", "OnBT_OK", "OnBT_Cancel"});
     EXPECT_EQ(name_of(open.find("m_table_Contacts")), "Contacts");
     EXPECT_EQ(name_of(open.find("m_table_Contacts_search")), "Search");
     for (const char* status : {"m_LB_ps", "m_LB_Tips_Contacts"})
         EXPECT_EQ(open.find(status)->accessibleDescription(), "Status");
+}
+
+TEST_F(Access, messages) {
+    const QStringList page = {"m_table_SMS_search", "OnBT_SendSMS", "OnClick_Button_Delete",
+                              "OnBT_SMS_DeleteAll", "OnBT_Refresh", "OnBT_Export_SMS",
+                              "m_table_SMS"};
+    open.click("m_BT_SMS");
+    check_page(page + QStringList{"m_LB_sms_content"});
+    g_sms_tablesource->table_rows.push_back({"1", "555", "", "", "today", "", "", "", ""});
+    g_sms_tablesource->m_table.reload_appended();
+    open.turn();
+    open.find<QTableView>("m_table_SMS")->selectRow(0);
+    check_page(page + QStringList{"m_LB_Tel", "m_LB_SMS_DateTime", "m_LB_sms_content"});
+    EXPECT_EQ(name_of(open.find("m_LB_sms_content")), "Empty");
+    check_dialog("OnBT_SendSMS",
+                 {"m_ET_Send_Contects_telname", "OnBT_Contacts", "m_ET_SMS_Content", "OnBT_Send"});
 }
 
 TEST_F(Access, pages_of_trouble) {
