@@ -61,13 +61,6 @@ Sequence first_sequence(std::string_view bytes) {
     return {length, character, true};
 }
 
-/// Takes the first character off the text.
-char32_t take_character(std::string_view& text) {
-    const Sequence first = first_sequence(text);
-    text.remove_prefix(first.length);
-    return first.character;
-}
-
 /// The same in every locale, the one in which the program happens to run included.
 char32_t lower(char32_t character) {
     static const locale_t unicode = newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
@@ -83,6 +76,12 @@ bool starts_with_ignoring_case(std::string_view text, std::string_view what) {
 }
 
 }  // namespace
+
+char32_t take_character(std::string_view& text) {
+    const Sequence first = first_sequence(text);
+    text.remove_prefix(first.length);
+    return first.character;
+}
 
 bool is_utf8(std::string_view bytes) {
     while (!bytes.empty()) {

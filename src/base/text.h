@@ -19,6 +19,9 @@ bool is_utf8(std::string_view bytes);
 /// The bytes as well-formed UTF-8: every ill-formed piece becomes U+FFFD.
 std::string as_utf8(std::string_view bytes);
 
+/// Takes the first character off the text, which is not empty. An ill-formed piece is U+FFFD.
+char32_t take_character(std::string_view& text);
+
 /// The text's length in UTF-16 code units. An ill-formed piece counts as the U+FFFD it is shown as.
 int utf16_length(std::string_view utf8);
 

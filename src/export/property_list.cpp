@@ -2,6 +2,7 @@
 
 #include <plist/plist.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <limits>
 #include <map>
@@ -22,22 +23,21 @@ struct Free {
 };
 using Node = std::unique_ptr<void, Free>;
 
-bool fits_xml(std::string_view character) {
-    const auto first = static_cast<unsigned char>(character.front());
-    if (first < ' ') return first == '\t' || first == '\n' || first == '\r';
-    return character != "\xEF\xBF\xBE" && character != "\xEF\xBF\xBF";  // U+FFFE and U+FFFF
+constexpr char32_t replacement = 0xFFFD;
+
+bool fits_xml(char32_t character) {
+    if (character < ' ') return character == '\t' || character == '\n' || character == '\r';
+    return character != 0xFFFE && character != 0xFFFF;
 }
 
 /// A text that XML can carry.
 std::string carried_text(const std::string& text) {
-    const std::string utf8 = as_utf8(text);
     std::string carried;
-    for (std::size_t start = 0; start < utf8.size();) {
-        std::size_t end = start + 1;
-        while (end < utf8.size() && (utf8[end] & 0xC0) == 0x80) ++end;
-        const std::string_view character = std::string_view(utf8).substr(start, end - start);
-        carried += fits_xml(character) ? character : "\xEF\xBF\xBD";
-        start = end;
+    for (std::string_view rest = text; !rest.empty();) {
+        const std::string_view here = rest;
+        const char32_t character = take_character(rest);
+        const bool fits = character != replacement && fits_xml(character);
+        carried += fits ? here.substr(0, here.size() - rest.size()) : "\xEF\xBF\xBD";
     }
     return carried;
 }
@@ -103,10 +103,14 @@ std::size_t end_of_markup(std::string_view file, std::size_t start) {
     const std::string_view rest = file.substr(start);
     if (rest.starts_with("<!--")) return file.find("-->", start);
     if (rest.starts_with("<![CDATA[")) return file.find("]]>", start);
-    const std::size_t end = file.find('>', start);
+    const std::size_t end =
+        rest.starts_with("<?") ? file.find("?>", start + 1) : file.find('>', start);
+    const std::string_view markup = file.substr(start, end - start);
     const bool has_rules_of_its_own =
-        rest.starts_with("<!") && rest.substr(0, end - start).find('[') != std::string_view::npos;
-    return has_rules_of_its_own ? std::string_view::npos : end;
+        rest.starts_with("<!") && markup.find('[') != std::string_view::npos;
+    // To the library the markup goes on behind an end that is quoted.
+    const bool is_quoted = std::count(markup.begin(), markup.end(), '"') % 2 != 0;
+    return has_rules_of_its_own || is_quoted ? std::string_view::npos : end;
 }
 
 /// The library walks a list by recursion: one that is deep enough would end the program.

@@ -13,6 +13,7 @@ SMS_Contacts::SMS_Contacts(Main_Window& window) : Dialog("SMS_Contacts"), window
     g_SMS_Contacts = this;
     window_title.set_text("Choose Contacts");
     table = &m_table;
+    m_table.editable = false;  // what is chosen is sent to
     table_title = "Contacts";
     empty_text = contacts_empty_text;
     quiet = &m_LB_Quiet;

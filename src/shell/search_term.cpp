@@ -7,6 +7,8 @@
 #include <cstring>
 #include <memory>
 
+#include "base/text.h"
+
 namespace velk {
 
 namespace {
@@ -19,7 +21,7 @@ struct Bare {
     Byte size;
 };
 
-constexpr char32_t letters = 0x110000;
+constexpr char32_t end_of_unicode = 0x110000;
 constexpr char32_t letters_of_a_page = 256;
 
 QString without_accents(char32_t letter) {
@@ -48,7 +50,7 @@ Bare bare_letter(char32_t letter) {
 /// thousand rows meets the same few letters again and again. User-interface thread.
 const Bare& bare(char32_t letter) {
     using Page = std::array<Bare, letters_of_a_page>;
-    static std::array<std::unique_ptr<Page>, letters / letters_of_a_page> book;
+    static std::array<std::unique_ptr<Page>, end_of_unicode / letters_of_a_page> book;
     std::unique_ptr<Page>& page = book[letter / letters_of_a_page];
     if (!page) {
         page = std::make_unique<Page>();
@@ -56,21 +58,6 @@ const Bare& bare(char32_t letter) {
         for (Bare& each : *page) each = bare_letter(next++);
     }
     return (*page)[letter % letters_of_a_page];
-}
-
-/// Takes the letter that starts at `next`; what is none reads as the replacement character.
-char32_t take_letter(const Byte*& next, const Byte* end) {
-    const Byte first = *next++;
-    if (first < 0x80) return first;
-    const bool is_short = first >= 0xc0 && first < 0xe0 && next != end && (*next & 0xc0) == 0x80;
-    if (is_short) return (first & 0x1fU) << 6 | (*next++ & 0x3fU);
-    const int more = first >= 0xf0 ? 3 : first >= 0xe0 ? 2 : first >= 0xc0 ? 1 : 0;
-    char32_t letter = first & (0x3f >> more);
-    for (int i = 0; i < more; ++i) {
-        if (next == end || (*next & 0xc0) != 0x80) return QChar::ReplacementCharacter;
-        letter = letter << 6 | (*next++ & 0x3f);
-    }
-    return more > 0 && letter < letters ? letter : char32_t{QChar::ReplacementCharacter};
 }
 
 /// Most texts are ASCII: false when this one is not, and `folded` is of no use then.
@@ -90,10 +77,8 @@ bool fold_ascii(std::string_view text, std::string& folded) {
 void fold_letters(std::string_view text, std::string& folded) {
     folded.resize((text.size() + 1) * sizeof(Bare));
     char* to = folded.data();
-    const auto* next = reinterpret_cast<const Byte*>(text.data());
-    const Byte* const end = next + text.size();
-    while (next != end) {
-        const Bare& letter = bare(take_letter(next, end));
+    while (!text.empty()) {
+        const Bare& letter = bare(take_character(text));
         std::memcpy(to, &letter, sizeof letter);
         to += letter.size;
     }

@@ -152,7 +152,7 @@ Qt::ItemFlags Table_Model::flags(const QModelIndex& index) const {
     if (!index.isValid()) return Qt::NoItemFlags;
     const bool words = column(index.column()).comparison == Comparison::text;
     return Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren |
-           (words ? Qt::ItemIsEditable : Qt::NoItemFlags);
+           (words && table_.editable ? Qt::ItemIsEditable : Qt::NoItemFlags);
 }
 
 }  // namespace velk

@@ -128,6 +128,8 @@ class Table : public Outlet {
 
     // --- for the program ---
 
+    bool editable = true;  // the person may write into cells of words
+
     /// The rows are other rows now: everything is read anew, the selection is gone.
     void reload();
     /// Rows were appended behind those that were there; everything else stays.

@@ -11,6 +11,12 @@ std::string list_of(const std::string& dictionary) {
     return "<plist version=\"1.0\"><dict>" + dictionary + "</dict></plist>";
 }
 
+std::string deep(const std::string& level) {
+    std::string file = "<plist version=\"1.0\">";
+    for (int i = 0; i < 200000; ++i) file += level;
+    return file;
+}
+
 TEST(Property_List, ContactsComeBackAsTheyWere) {
     const Contacts contacts = {{"7", "Zoë <b>&amp; \"O'Neil\"", "+49 (0)"},
                                {"", "", ""},
@@ -57,13 +63,10 @@ TEST(Property_List, WhatIsNotThereIsLeftOut) {
          list_of(count("<string>1</string>") + "<key>0</key><array><true/><true/><true/></array>"),
          0},
         {"no array", list_of(count("<string>1</string>") + "<key>0</key><string>a</string>"), 0},
-        {"endless depth",
-         [] {
-             std::string file = "<plist version=\"1.0\">";
-             for (int i = 0; i < 1000000; ++i) file += "<array><!--</array>-->";
-             return file;
-         }(),
-         {}},
+        {"deep", deep("<array><!--</array>-->"), {}},
+        {"deep behind instructions", deep("<array><?x ><!-- ?>"), {}},
+        {"deep behind a quoted end", deep("<array><?x \"?></array>\"?>"), {}},
+        {"deep behind a quoted end of a tag", deep("<array><true a=\"></array>\"/>"), {}},
     };
     for (const auto& each : cases) {
         const auto contacts = contacts_of_property_list(each.file);
