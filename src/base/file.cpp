@@ -1,6 +1,8 @@
 #include "base/file.h"
 
 #include <fcntl.h>
+#include <locale.h>
+#include <string.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -8,10 +10,9 @@
 #include <atomic>
 #include <cerrno>
 #include <cstdio>
-#include <cstring>
 #include <filesystem>
-#include <utility>
 
+#include "base/descriptor.h"
 #include "base/text.h"
 
 namespace velk {
@@ -22,24 +23,11 @@ constexpr mode_t mode_of_a_new_file = 0666;  // less the umask
 constexpr mode_t mode_bits = 07777;
 constexpr int most_links = 40;  // the kernel's own limit for one path
 
-/// Open as long as it lives; -1 when it could not be opened.
-class Descriptor {
-  public:
-    explicit Descriptor(int number) : number_(number) {}
-    ~Descriptor() {
-        if (number_ >= 0) ::close(number_);
-    }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-
-    int number() const { return number_; }
-    bool is_open() const { return number_ >= 0; }
-    /// Closes it: some file systems tell only then that they could not write.
-    bool close() { return ::close(std::exchange(number_, -1)) == 0; }
-
-  private:
-    int number_;
-};
+/// The system's reason in the window's language, whatever the person's is.
+std::string reason(int error) {
+    static const locale_t english = ::newlocale(LC_ALL_MASK, "C", nullptr);
+    return ::strerror_l(error, english);
+}
 
 /// The place that the symbolic links at `path` lead to, whether or not something is there.
 std::filesystem::path behind_links(std::filesystem::path path) {
@@ -52,7 +40,8 @@ std::filesystem::path behind_links(std::filesystem::path path) {
 bool write_all(int file, std::string_view content) {
     while (!content.empty()) {
         const ssize_t count = ::write(file, content.data(), content.size());
-        if (count < 0 && errno != EINTR) return false;
+        if (count == 0) errno = EIO;
+        if (count == 0 || (count < 0 && errno != EINTR)) return false;
         if (count > 0) content.remove_prefix(static_cast<std::size_t>(count));
     }
     return true;
@@ -105,19 +94,25 @@ class Replacement {
     Descriptor file_;
 };
 
-/// Makes sure of the room before the first byte is overwritten.
+/// Makes sure of the room before the first byte is overwritten, where the disk can tell.
 bool have_room(int file, std::size_t size, const struct stat& before) {
     if (static_cast<off_t>(size) <= before.st_size) return true;
     const int error = ::posix_fallocate(file, 0, static_cast<off_t>(size));
-    if (error == 0) return true;
+    if (error == 0 || error == EOPNOTSUPP || error == EBADF || error == EINVAL) return true;
     if (::ftruncate(file, before.st_size) == 0) errno = error;
     return false;
 }
 
+int open_in_place(const std::filesystem::path& target, const struct stat& before) {
+    // Where the disk cannot set room aside, the C library reads to find out what is missing.
+    const int file = S_ISREG(before.st_mode) ? ::open(target.c_str(), O_RDWR | O_CLOEXEC) : -1;
+    // A pipe that nobody reads must not hold the caller; one that is read may take its time.
+    return file >= 0 ? file : ::open(target.c_str(), O_WRONLY | O_NONBLOCK | O_CLOEXEC);
+}
+
 bool write_in_place(const std::filesystem::path& target, std::string_view content,
                     const struct stat& before) {
-    // A pipe that nobody reads must not hold the caller; one that is read may take its time.
-    Descriptor file(::open(target.c_str(), O_WRONLY | O_NONBLOCK | O_CLOEXEC));
+    Descriptor file(open_in_place(target, before));
     if (!file.is_open() || ::fcntl(file.number(), F_SETFL, 0) != 0) return false;
     if (!S_ISREG(before.st_mode)) return write_all(file.number(), content);
     return have_room(file.number(), content.size(), before) && write_all(file.number(), content) &&
@@ -145,22 +140,23 @@ bool write_over(const std::filesystem::path& target, std::string_view content,
 }  // namespace
 
 std::string write_whole_file(const std::string& path, std::string_view content) {
-    if (path.empty()) return std::strerror(ENOENT);
+    if (path.empty()) return reason(ENOENT);
     const std::filesystem::path target = behind_links(path);
     struct stat found {};
     const bool is_there = ::stat(target.c_str(), &found) == 0;
-    if (!is_there && errno != ENOENT) return std::strerror(errno);
-    if (is_there && S_ISDIR(found.st_mode)) return std::strerror(EISDIR);
+    if (!is_there && errno != ENOENT) return reason(errno);
+    if (is_there && S_ISDIR(found.st_mode)) return reason(EISDIR);
     // Whoever may change the folder could replace a file that says it must not be written.
-    if (is_there && ::access(target.c_str(), W_OK) != 0) return std::strerror(errno);
+    if (is_there && ::access(target.c_str(), W_OK) != 0) return reason(errno);
     const bool done = is_there ? write_over(target, content, found) : write_new(target, content);
-    return done ? "" : std::strerror(errno);
+    return done ? "" : reason(errno);
 }
 
 std::optional<std::string> read_whole_file(const std::string& path) {
     const Descriptor file(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
     struct stat found {};
-    if (!file.is_open() || ::fstat(file.number(), &found) != 0 || !S_ISREG(found.st_mode))
+    if (!file.is_open() || ::fstat(file.number(), &found) != 0 || !S_ISREG(found.st_mode) ||
+        found.st_size > static_cast<off_t>(most_bytes_read))
         return std::nullopt;
     std::string content;
     std::array<char, 65536> buffer;
@@ -169,6 +165,7 @@ std::optional<std::string> read_whole_file(const std::string& path) {
         if (count == 0) return content;
         if (count < 0 && errno != EINTR) return std::nullopt;
         if (count > 0) content.append(buffer.data(), static_cast<std::size_t>(count));
+        if (content.size() > most_bytes_read) return std::nullopt;
     }
 }
 

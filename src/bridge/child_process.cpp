@@ -13,6 +13,7 @@
 #include <csignal>
 #include <cstdio>
 
+#include "base/descriptor.h"
 #include "base/interruptor.h"
 
 namespace velk {
@@ -27,23 +28,6 @@ constexpr std::size_t size_of_a_pipe = 65536;
 /// How long the stream of a child that has ended is still listened to when somebody else keeps it
 /// open: long enough for the last words of a filter behind the child, too short to be noticed.
 constexpr auto patience_after_the_end = 100ms;
-
-class Descriptor {
-  public:
-    explicit Descriptor(int number) : number_(number) {}
-    ~Descriptor() { close(); }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-
-    int number() const { return number_; }
-    void close() {
-        if (number_ >= 0) ::close(number_);
-        number_ = -1;
-    }
-
-  private:
-    int number_;
-};
 
 /// For the forked copy; perror() may need a lock that another thread held.
 void tell_that_it_cannot_be_run(std::string_view program) {

@@ -5,6 +5,9 @@
 
 #include <csignal>
 #include <filesystem>
+#include <fstream>
+
+#include "support/temporary_folder.h"
 
 namespace velk {
 namespace {
@@ -13,17 +16,12 @@ namespace fs = std::filesystem;
 
 class Files : public testing::Test {
   protected:
-    Files() : folder_(fs::temp_directory_path() / ("velk_files_" + std::to_string(::getpid()))) {
-        fs::create_directory(folder_);
-    }
-    ~Files() override { fs::remove_all(folder_); }
-
-    std::string at(const char* name) const { return folder_ / name; }
+    std::string at(const std::string& name) const { return folder_.path(name); }
     std::size_t count() const {
-        return static_cast<std::size_t>(std::distance(fs::directory_iterator(folder_), {}));
+        return static_cast<std::size_t>(std::distance(fs::directory_iterator(at("")), {}));
     }
 
-    const fs::path folder_;
+    const Temporary_Folder folder_;
 };
 
 TEST_F(Files, AFileKeepsItsModeItsLinkAndItsOtherNames) {
@@ -67,10 +65,10 @@ TEST_F(Files, WhatCannotBeWrittenOrReadIsSaid) {
     fs::create_symlink("loop", at("loop"));
     const std::pair<std::string, const char*> cases[] = {
         {"", "No such file or directory"},
-        {folder_, "Is a directory"},
+        {at(""), "Is a directory"},
         {at("missing/file"), "No such file or directory"},
         {at("loop"), "Too many levels of symbolic links"},
-        {at(std::string(300, 'n').c_str()), "File name too long"},
+        {at(std::string(300, 'n')), "File name too long"},
         {"/dev/full", "No space left on device"},
         {"/dev/null", ""},
     };
@@ -78,7 +76,10 @@ TEST_F(Files, WhatCannotBeWrittenOrReadIsSaid) {
         EXPECT_EQ(write_whole_file(path, "text"), reason) << path;
         EXPECT_EQ(read_whole_file(path), std::nullopt) << path;
     }
-    EXPECT_EQ(count(), 1U);
+    std::ofstream(at("huge")).close();
+    fs::resize_file(at("huge"), most_bytes_read + 1);
+    EXPECT_EQ(read_whole_file(at("huge")), std::nullopt);
+    EXPECT_EQ(count(), 2U);
 }
 
 }  // namespace
