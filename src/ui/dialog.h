@@ -5,6 +5,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "ui/command.h"
@@ -49,7 +50,7 @@ class Dialog {
     void OnBT_Cancel() { end(false); }
     /// Takes it from the screen, if it is there.
     void close() {
-        if (close_window_) close_window_();
+        if (const auto close_window = std::exchange(close_window_, {})) close_window();
     }
 
     /// For the window: how it is taken from the screen; nothing once it is gone.
