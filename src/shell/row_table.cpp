@@ -33,7 +33,7 @@ QString start_of(const QString& text) {
 }
 
 /// Cells are one line of text; a right-to-left text is set from its own side but keeps its place,
-/// and a text without room is told in full by the tool tip.
+/// and a text without room is told by the tool tip.
 class Cell_Delegate : public QStyledItemDelegate {
   public:
     using QStyledItemDelegate::QStyledItemDelegate;

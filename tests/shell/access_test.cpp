@@ -3,10 +3,8 @@
 
 #include <QAccessible>
 #include <QApplication>
-#include <QDialog>
 #include <QLabel>
 #include <QStringList>
-#include <QTableView>
 
 #include "managers/sms_tablesource.h"
 #include "shell/text_label.h"
@@ -72,11 +70,14 @@ class Access : public testing::Test {
             }
         }
     }
+    static void check(QWidget& window, const QStringList& controls) {
+        every_control_has_a_name(window);
+        EXPECT_EQ(tab_path(window).join(' ').toStdString(), controls.join(' ').toStdString());
+        nothing_is_clipped(window);
+    }
     void check_page(const QStringList& controls) {
         open.turn();
-        every_control_has_a_name(*open.window);
-        EXPECT_EQ(tab_path(*open.window).join(' ').toStdString(),
-                  (toolbar + controls).join(' ').toStdString());
+        check(*open.window, toolbar + controls);
         for (const QSize size : {QSize(900, 600), QSize(1920, 1080)}) {
             open.window->resize(size);
             open.turn();
@@ -84,15 +85,12 @@ class Access : public testing::Test {
             nothing_is_clipped(*open.window);
         }
     }
-
     void check_dialog(const char* opened_by, const QStringList& controls) {
         open.click(opened_by);
-        auto* const box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        QWidget* const box = QApplication::activeModalWidget();
         ASSERT_TRUE(box) << opened_by;
-        every_control_has_a_name(*box);
-        nothing_is_clipped(*box);
-        EXPECT_EQ(tab_path(*box).join(' ').toStdString(), controls.join(' ').toStdString());
-        box->reject();
+        check(*box, controls);
+        box->close();
     }
 
     Open_Window open;
@@ -111,7 +109,6 @@ TEST_F(Access, contacts) {
     check_dialog("OnBT_AddContacts",
                  {"m_Edit_Name", "m_Edit_PhoneNumber", "OnBT_OK", "OnBT_Cancel"});
     EXPECT_EQ(name_of(open.find("m_table_Contacts")), "Contacts");
-    EXPECT_EQ(name_of(open.find("m_table_Contacts_search")), "Search");
     for (const char* status : {"m_LB_ps", "m_LB_Tips_Contacts"})
         EXPECT_EQ(open.find(status)->accessibleDescription(), "Status");
 }
@@ -122,10 +119,8 @@ TEST_F(Access, messages) {
                               "m_table_SMS"};
     open.click("m_BT_SMS");
     check_page(page + QStringList{"m_LB_sms_content"});
-    g_sms_tablesource->table_rows.push_back({"1", "555", "", "", "today", "", "", "", ""});
-    g_sms_tablesource->m_table.reload_appended();
-    open.turn();
-    open.find<QTableView>("m_table_SMS")->selectRow(0);
+    g_sms_tablesource->m_LB_Tel.set_text("555");
+    g_sms_tablesource->m_LB_SMS_DateTime.set_text("today");
     check_page(page + QStringList{"m_LB_Tel", "m_LB_SMS_DateTime", "m_LB_sms_content"});
     EXPECT_EQ(name_of(open.find("m_LB_sms_content")), "Empty");
     check_dialog("OnBT_SendSMS",
