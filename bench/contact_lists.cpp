@@ -2,29 +2,22 @@
 // answer on its port (bench/contact_lists.sh brings one there, through the real adb).
 //
 //   contact_lists TRIES CONTACTS
-#include <chrono>
-#include <cstdio>
 #include <cstdlib>
 #include <vector>
 
 #include "agent/sock_apk.h"
+#include "count_whole.h"
 
 int main(int count, char** arguments) {
     if (count != 3) {
         std::fputs("usage: contact_lists TRIES CONTACTS\n", stderr);
         return 2;
     }
-    const int tries = std::atoi(arguments[1]);
     const auto expected = static_cast<std::size_t>(std::atoi(arguments[2]));
-    int whole = 0;
-    const auto begun = std::chrono::steady_clock::now();
-    for (int i = 0; i < tries; ++i) {
+    count_whole("lists", std::atoi(arguments[1]), [expected] {
         std::vector<velk::sock_apk::CONTACT> contacts;
         velk::sock_apk().send_command_get_contatcts_array("14", contacts);
-        whole += contacts.size() == expected;
-    }
-    const std::chrono::duration<double, std::milli> took = std::chrono::steady_clock::now() - begun;
-    std::fprintf(stderr, "%d of %d lists whole, %.1f ms a list\n", whole, tries,
-                 took.count() / tries);
+        return contacts.size() == expected;
+    });
     return 0;
 }

@@ -4,13 +4,12 @@
 //
 //   message_lists TRIES MESSAGES
 #include <algorithm>
-#include <chrono>
-#include <cstdio>
 #include <cstdlib>
 #include <string>
 #include <vector>
 
 #include "agent/sock_apk.h"
+#include "count_whole.h"
 #include "demo_phone/demo_data.h"
 
 namespace {
@@ -30,22 +29,16 @@ int main(int count, char** arguments) {
         std::fputs("usage: message_lists TRIES MESSAGES\n", stderr);
         return 2;
     }
-    const int tries = std::atoi(arguments[1]);
     velk::Demo_Amounts amounts;
     amounts.messages = static_cast<std::size_t>(std::atoi(arguments[2]));
     velk::Phone_Store store;
     velk::fill_people(store, amounts);
 
-    int whole = 0;
-    const auto begun = std::chrono::steady_clock::now();
-    for (int i = 0; i < tries; ++i) {
+    count_whole("lists", std::atoi(arguments[1]), [&store] {
         Messages messages;
         velk::sock_apk().send_command_get_sms("47", messages);
-        whole += std::equal(messages.begin(), messages.end(), store.messages().begin(),
-                            store.messages().end(), is_same);
-    }
-    const std::chrono::duration<double, std::milli> took = std::chrono::steady_clock::now() - begun;
-    std::fprintf(stderr, "%d of %d lists whole, %.1f ms a list\n", whole, tries,
-                 took.count() / tries);
+        return std::equal(messages.begin(), messages.end(), store.messages().begin(),
+                          store.messages().end(), is_same);
+    });
     return 0;
 }

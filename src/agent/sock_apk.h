@@ -38,6 +38,48 @@ class sock_apk {
         std::string read;
     };
 
+    // The libraries' records: texts as the agent sent them, numbers as decimal text, sizes and
+    // durations as get_size() and get_time() show them.
+
+    struct APP_RECORD {
+        std::string size;
+        std::string second;  // shown nowhere, as the sixth
+        std::string name;
+        std::string package;
+        std::string version;
+        std::string sixth;
+    };
+
+    struct MUSIC_RECORD {
+        std::string id;
+        std::string zhuanji;  // the album
+        std::string singer;
+        std::string path;  // on the phone
+        std::string timer;
+        std::string size;
+        std::string is_ring;  // not 0 for a ring tone
+    };
+
+    struct VIDEO_RECORD {
+        std::string id;
+        std::string file_path;
+        std::string timer;
+        std::string size;
+    };
+
+    struct PHOTO_RECORD {
+        std::string id;
+        std::string file_path;
+        std::string size;
+    };
+
+    /// A book has no id.
+    struct BOOK_RECORD {
+        std::string file_path;
+        std::string size;
+        std::string location;
+    };
+
     // --- single requests (requests.cpp) -------------------------------------------------------
     // A code is the decimal text of a request's number, of which the low 7 bits are sent.
 
@@ -105,6 +147,29 @@ class sock_apk {
     // lengths of a message to send wrap at 128.
     static std::string get_del_sms_command(const char* ID, const char* threadID, int variant);
     static std::string get_send_sms_command(const char* text, const char* number);
+
+    // --- applications, music, videos, photos, books (libraries.cpp) ----------------------------
+
+    // Append what the phone has in the agent's order; a reply that breaks off gives the records in
+    // front of the break. The result is always empty.
+    std::string send_command_get_app_list(const char* code, std::vector<APP_RECORD>& apps);
+    std::string send_command_get_music(const char* code, std::vector<MUSIC_RECORD>& music);
+    std::string send_command_get_video(const char* code, std::vector<VIDEO_RECORD>& videos);
+    std::string send_command_get_photo(const char* code, std::vector<PHOTO_RECORD>& photos);
+    std::string send_command_get_book(const char* code, std::vector<BOOK_RECORD>& books);
+
+    // Append the whole records from `start` on and give what is left behind them, the begin of one
+    // more. A last text that is cut is taken short and leaves nothing. `first` has no effect.
+    static std::string get_app_list(const std::string& data, int length, int first,
+                                    std::vector<APP_RECORD>& apps, int start);
+    static std::string get_music_list(const std::string& data, int length, int first,
+                                      std::vector<MUSIC_RECORD>& music, int start);
+    static std::string get_video_list(const std::string& data, int length, int first,
+                                      std::vector<VIDEO_RECORD>& videos, int start);
+    static std::string get_photo_list(const std::string& data, int length, int first,
+                                      std::vector<PHOTO_RECORD>& photos, int start);
+    static std::string get_book_list(const std::string& data, int length, int first,
+                                     std::vector<BOOK_RECORD>& books, int start);
 
     // --- commands (commands.cpp) --------------------------------------------------------------
     // True when the agent answered at all. The one-byte lengths in the requests wrap at 128.
