@@ -2,7 +2,10 @@
 // field compared with what the demo phone holds. Prints the counts and times; the agent must answer
 // on its port (bench/media_lists.sh brings one there, through the real adb).
 //
-//   media_lists TRIES MUSIC PHOTOS VIDEOS BOOKS APPS
+// STORAGE is the folder of the phone's files; those that it lacks are made first, which is all that
+// 0 tries do.
+//
+//   media_lists STORAGE TRIES MUSIC PHOTOS VIDEOS BOOKS APPS
 #include <algorithm>
 #include <cstdlib>
 #include <string>
@@ -68,22 +71,23 @@ void count_lists(const char* what, int tries, const char* code, const std::vecto
 }  // namespace
 
 int main(int count, char** arguments) {
-    if (count != 7) {
-        std::fputs("usage: media_lists TRIES MUSIC PHOTOS VIDEOS BOOKS APPS\n", stderr);
+    if (count != 8) {
+        std::fputs("usage: media_lists STORAGE TRIES MUSIC PHOTOS VIDEOS BOOKS APPS\n", stderr);
         return 2;
     }
     velk::Demo_Amounts amounts;
     std::size_t* const wanted[] = {&amounts.music, &amounts.photos, &amounts.videos, &amounts.books,
                                    &amounts.apps};
     for (std::size_t i = 0; i < std::size(wanted); ++i)
-        *wanted[i] = static_cast<std::size_t>(std::atoi(arguments[i + 2]));
+        *wanted[i] = static_cast<std::size_t>(std::atoi(arguments[i + 3]));
     velk::Phone_Store store;
-    const auto storage = velk::Phone_Storage::open("");
+    const auto storage = velk::Phone_Storage::open(arguments[1]);
     if (!storage || !velk::fill_library(store, *storage, amounts)) {
         std::perror("media_lists");
         return 1;
     }
-    const int tries = std::atoi(arguments[1]);
+    const int tries = std::atoi(arguments[2]);
+    if (tries == 0) return 0;
     count_lists("music lists", tries, "115", store.media(Media_Kind::music),
                 &sock_apk::send_command_get_music);
     count_lists("photo lists", tries, "118", store.media(Media_Kind::photo),

@@ -6,14 +6,19 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 build=$(cd "${1:-build/release}" && pwd)
-read -r music photos videos books apps <<<"${*:2:5}"
-: "${music:=4000}" "${photos:=4000}" "${videos:=1000}" "${books:=1000}" "${apps:=500}"
+music=${2:-4000} photos=${3:-4000} videos=${4:-1000} books=${5:-1000} apps=${6:-500}
+amounts=("$music" "$photos" "$videos" "$books" "$apps")
 export VELK_BIN=$build/bin
-amounts="--music $music --photos $photos --videos $videos --books $books --apps $apps"
+
+# Made once and before the phone starts: so many files take longer than a start is waited for.
+storage=$(mktemp -d)
+trap 'rm -rf "$storage"' EXIT
+"$build/bench/media_lists" "$storage" 0 "${amounts[@]}"
 
 for packet in 4096 262144; do
     printf 'packets of %6d bytes:\n' "$packet"
-    { DEMO_PHONE_OPTIONS="--packet $packet $amounts" \
+    { DEMO_PHONE_OPTIONS="--packet $packet --storage $storage --music $music --photos $photos \
+        --videos $videos --books $books --apps $apps" \
         scripts/with_demo_phone.sh bench/with_agent.sh \
-        "$build/bench/media_lists" 100 "$music" "$photos" "$videos" "$books" "$apps" >/dev/null; } 2>&1
+        "$build/bench/media_lists" "$storage" 100 "${amounts[@]}" >/dev/null; } 2>&1
 done
