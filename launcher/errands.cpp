@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <string_view>
 
+#include "base/text.h"
 #include "bridge/child_process.h"
 #include "launcher/habits.h"
 
@@ -32,7 +33,7 @@ int ask_tool(const std::string& tool, const Words& words, std::string& said) {
 }
 
 /// What is captured goes to standard error as it comes, and when the tool fails to standard output
-/// too: the program reads nothing else.
+/// too: the program reads nothing else. It reads only UTF-8, and a message names files.
 int run_and_repeat_a_failure(Child_Command command) {
     command.shares_input = true;
     command.captures_errors = true;
@@ -41,7 +42,7 @@ int run_and_repeat_a_failure(Child_Command command) {
         print(stderr, piece);
         said += piece;
     });
-    if (status != 0) print(stdout, said);
+    if (status != 0) print(stdout, as_utf8(said));
     return status;
 }
 

@@ -50,10 +50,9 @@ bool write_all(int file, std::string_view content) {
 /// A new hidden file in `folder`, whose name is put into `name`; -1 and no name when none can be
 /// made.
 int make_hidden_file(const std::filesystem::path& folder, std::filesystem::path& name) {
-    static std::atomic<unsigned> made{0};
     int file = -1;
     do {
-        name = folder / format(".velk-%d-%u", static_cast<int>(::getpid()), made++);
+        name = folder / hidden_name();
         file = ::open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode_of_a_new_file);
     } while (file < 0 && errno == EEXIST);
     if (file < 0) name.clear();
@@ -150,6 +149,11 @@ std::string write_whole_file(const std::string& path, std::string_view content) 
     if (is_there && ::access(target.c_str(), W_OK) != 0) return reason(errno);
     const bool done = is_there ? write_over(target, content, found) : write_new(target, content);
     return done ? "" : reason(errno);
+}
+
+std::string hidden_name() {
+    static std::atomic<unsigned> made{0};
+    return format(".velk-%d-%u", static_cast<int>(::getpid()), made++);
 }
 
 std::optional<std::string> read_whole_file(const std::string& path) {

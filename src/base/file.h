@@ -18,6 +18,10 @@ namespace velk {
 /// has room for all of it, as far as the disk can tell.
 std::string write_whole_file(const std::string& path, std::string_view content);
 
+/// A file name that no other file of this program bears, for what stands beside another file for a
+/// while. Hidden, and short enough for every disk.
+std::string hidden_name();
+
 /// A file that is larger counts as not readable: what people exchange is far smaller.
 inline constexpr std::size_t most_bytes_read = std::size_t{1} << 30;
 

@@ -56,8 +56,10 @@ std::string ADB_Command::Install_Apk_To_Android(const std::string& tool, const s
 
 std::string ADB_Command::Uninstall_Apk_From_Android(const std::string& tool,
                                                     const std::string& ModelID,
-                                                    const std::string& ApkFile) {
+                                                    const std::string& ApkFile,
+                                                    std::string* printed) {
     const std::string output = output_on_device(tool, ModelID, {"uninstall", ApkFile});
+    if (printed) *printed = output;
     log_line("Uninstall:'%s' :: [%s]", ApkFile.c_str(), output.c_str());
     // The whole output on purpose: the tool adds a line break and often a reason, and an agent
     // that was not there to be removed is no failure to speak of.

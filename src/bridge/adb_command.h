@@ -21,8 +21,10 @@ class ADB_Command {
     std::string Install_Apk_To_Android(const std::string& tool, const std::string& ModelID,
                                        const std::string& ApkFile);
     /// A verdict instead of the output: a failure only when the output is the bare word "Failure".
+    /// The output itself goes to `printed` (when given).
     std::string Uninstall_Apk_From_Android(const std::string& tool, const std::string& ModelID,
-                                           const std::string& ApkFile);
+                                           const std::string& ApkFile,
+                                           std::string* printed = nullptr);
     std::string Push_File_To_Android(const std::string& tool, const std::string& ModelID,
                                      const std::string& File, const std::string& PhonePath);
     std::string Pull_File_To_Computer(const std::string& tool, const std::string& ModelID,

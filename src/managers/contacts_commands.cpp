@@ -134,7 +134,7 @@ bool Contacts_TableSource::Contacts_Modify_To_APK(const std::string& name,
 
 void Contacts_TableSource::OnBT_DeleteContacts() {
     if (selected_row == -1) return;
-    ask_person(delete_selected_question, [this] {
+    ask_person(yes_or_no(delete_selected_question), [this] {
         run_command(desktop(), "delete contacts", [this] {
             const bool deleted = delete_selected(table_rows, m_table, [this](const auto& row) {
                 Contacts_Del_To_APK(row.col_id, row.col_name, row.col_phone_number);

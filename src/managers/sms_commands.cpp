@@ -25,7 +25,7 @@ void SMS_TableSource::delete_one(const SMS_TableSource_Column& row) {
 
 void SMS_TableSource::OnClick_Button_Delete() {
     if (selected_row == -1) return;
-    ask_person(delete_selected_question, [this] {
+    ask_person(yes_or_no(delete_selected_question), [this] {
         run_command(desktop(), "delete messages", [this] { delete_selected_messages(); });
     });
 }

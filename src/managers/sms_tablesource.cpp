@@ -1,14 +1,18 @@
 // The messages section itself, and how its table is filled.
 #include "managers/sms_tablesource.h"
 
-#include "managers/filling.h"
 #include "ui/program_wide.h"
 
 namespace velk {
 
 namespace {
 
-constexpr const char* command_list_sms = "47";
+const Phone_List<sock_apk::SMS_RECORD> phone_list = {
+    .name = "messages",
+    .code = "47",
+    .fetch = &sock_apk::send_command_get_sms,
+    .loaded = "There are %zu message(s) on your Mobile Phone.",
+    .counted = g_int_count_sms};
 
 }  // namespace
 
@@ -90,22 +94,9 @@ void SMS_TableSource::refresh_button_sms_title() {
 }
 
 void SMS_TableSource::fill_table() {
-    const Busy_Note note = busy("Waiting for the phone: messages");
-    Filling filling(desktop(), table_rows, m_table);
-    post([this] { quiet.tell_of_list(""); });
-    std::vector<sock_apk::SMS_RECORD> messages;
-    sock_apk().send_command_get_sms(command_list_sms, messages);
-    std::vector<SMS_TableSource_Column> loaded;
-    for (const sock_apk::SMS_RECORD& message : messages)
-        loaded.push_back(row_of(message, loaded.size() + 1));
-    filling.append(std::move(loaded), [this](const SMS_TableSource_Column& row) {
+    fill_from_phone(table_rows, m_table, phone_list, [this](const SMS_TableSource_Column& row) {
         say(format("Loading No.%s '%s'message......", row.col_no.c_str(),
                    row.col_sms_phone_number.c_str()));
-    });
-    filling.post_while_mine([this, count = messages.size()] {
-        say(format("There are %zu message(s) on your Mobile Phone.", count));
-        quiet.tell_of_list(remark_on(g_int_count_sms, count));
-        refresh_button_sms_title();
     });
 }
 

@@ -21,8 +21,8 @@ void Table_Source::set_commands(std::vector<Command> commands) {
     section.commands = std::move(commands);
 }
 
-void Table_Source::ask_person(const std::string& question, std::function<void()> agreed) {
-    desktop().open_alert(yes_or_no(question), [agreed = std::move(agreed)](int button) {
+void Table_Source::ask_person(const Alert& question, std::function<void()> agreed) {
+    desktop().open_alert(question, [agreed = std::move(agreed)](int button) {
         if (button == yes) agreed();
     });
 }
@@ -36,14 +36,23 @@ void Table_Source::show_count(int rows) {
 void Table_Source::start_load(std::function<void()> load) {
     if (identity_.may_load) list_is_old_ = false;
     start_guarded(desktop(), identity_.may_load, identity_.name,
-                  [load = std::move(load)](Held_Flag&) { load(); });
+                  [this, load = std::move(load)](Held_Flag& loading) {
+                      load();
+                      loading.give_back();
+                      post([this] {
+                          if (load_ended) load_ended();
+                      });
+                  });
+}
+
+bool Table_Source::list_may_be_old() {
+    list_is_old_ = !identity_.may_load;
+    if (list_is_old_) quiet.tell_of_list(list_is_old);
+    return list_is_old_;
 }
 
 void Table_Source::list_may_be_old(Flag& needs_refresh) {
-    list_is_old_ = !identity_.may_load;
-    if (!list_is_old_) return;
-    needs_refresh = 1;
-    quiet.tell_of_list(list_is_old);
+    if (list_may_be_old()) needs_refresh = 1;
 }
 
 void Table_Source::post_status(std::string text) {

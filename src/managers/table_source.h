@@ -2,10 +2,13 @@
 #pragma once
 
 #include <algorithm>
+#include <functional>
 #include <string>
 #include <vector>
 
+#include "agent/sock_apk.h"
 #include "base/text.h"
+#include "managers/filling.h"
 #include "managers/quiet_line.h"
 #include "ui/busy_line.h"
 #include "ui/desktop.h"
@@ -20,6 +23,16 @@ inline constexpr const char* delete_selected_question =
     "Are you sure you want to delete the selected item(s)?";
 inline constexpr const char* delete_all_question = "Are your sure you want to delete all items?";
 
+/// A list of the phone's, and what is said of it.
+template <class Record>
+struct Phone_List {
+    const char* name;  // "messages"
+    const char* code;  // of its request
+    std::string (sock_apk::*fetch)(const char* code, std::vector<Record>& records);
+    const char* loaded;  // the status line at the end, with a %zu for the number
+    const int& counted;  // by the phone, when its summary was read
+};
+
 /// Base of the managers, which live as long as the main window. User-interface thread, but for the
 /// bodies of workers.
 class Table_Source {
@@ -30,6 +43,8 @@ class Table_Source {
     int selected_row = -1;  // index of the row last selected, -1 for none
     Quiet_Line quiet;
     Section section;  // what the window shows of all this
+    /// Called when a load has ended and the next may start; for the session.
+    std::function<void()> load_ended;
 
   protected:
     /// What a section is known by to all that it shares with the others.
@@ -48,8 +63,8 @@ class Table_Source {
 
     Desktop& desktop() { return window_.desktop(); }
 
-    /// Asks with "Yes" and "No"; `agreed` runs behind "Yes".
-    void ask_person(const std::string& question, std::function<void()> agreed);
+    /// Asks; `agreed` runs behind "Yes".
+    void ask_person(const Alert& question, std::function<void()> agreed);
 
     void say(std::string text) { identity_.status.set_text(std::move(text)); }
     /// Puts the number of rows into the section's button of the toolbar.
@@ -58,7 +73,9 @@ class Table_Source {
     /// Starts `load` on a worker, unless one runs.
     void start_load(std::function<void()> load);
     /// Behind a change of the phone's list: a load under way may have missed it. Then what it
-    /// brings counts as old, and `needs_refresh` is set.
+    /// brings counts as old, and this gives true.
+    bool list_may_be_old();
+    /// The same; `needs_refresh` is set then.
     void list_may_be_old(Flag& needs_refresh);
     /// What the quiet line says of a list that has come; see remark_on_list().
     std::string remark_on(int counted, std::size_t came) const {
@@ -79,12 +96,28 @@ class Table_Source {
     /// Says what is waited for, until it goes.
     Busy_Note busy(std::string text) { return {desktop(), window_.busy_line(), std::move(text)}; }
 
+    /// Fills the table with the list, each row from its record by row_of(record, number from 1);
+    /// `told` is called behind each row with it. Ends with the count.
+    template <class Row, class Record, class Told>
+    void fill_from_phone(Row_List<Row>& rows, Table& table, const Phone_List<Record>& list,
+                         Told told);
+
+    template <class Row>
+    struct Chosen {
+        std::vector<int> indexes;  // ascending
+        std::vector<Row> rows;
+        int reloads = 0;  // of the table; with another number the indexes mean other rows
+    };
+    /// The rows that are selected now. Beeps when none is.
+    template <class Row>
+    Chosen<Row> chosen_rows(const Row_List<Row>& rows, const Table& table);
+
     /// The rows in their order on the screen.
     template <class Row>
     std::vector<Row> rows_on_the_screen(const Row_List<Row>& rows, const Table& table);
 
-    /// Calls `work` for each of these, telling how far it is ("Deleting 3 of 17"), until the window
-    /// closes.
+    /// Calls `work` for each of these, telling how far it is ("Deleting 3 of 17", or "Deleting" for
+    /// a single one), until the window closes.
     template <class Item, class Work>
     void for_each_told(const char* doing, const std::vector<Item>& items, Work work);
 
@@ -104,9 +137,40 @@ template <class Item, class Work>
 void Table_Source::for_each_told(const char* doing, const std::vector<Item>& items, Work work) {
     Busy_Note note = busy(doing);
     for (std::size_t i = 0; i < items.size() && !desktop().closing(); ++i) {
-        note.say(format("%s %zu of %zu", doing, i + 1, items.size()));
+        if (items.size() > 1) note.say(format("%s %zu of %zu", doing, i + 1, items.size()));
         work(items[i]);
     }
+}
+
+template <class Row, class Record, class Told>
+void Table_Source::fill_from_phone(Row_List<Row>& rows, Table& table,
+                                   const Phone_List<Record>& list, Told told) {
+    const Busy_Note note = busy(std::string("Waiting for the phone: ") + list.name);
+    Filling filling(desktop(), rows, table);
+    post([this] { quiet.tell_of_list(""); });
+    std::vector<Record> records;
+    (sock_apk().*list.fetch)(list.code, records);
+    std::vector<Row> loaded;
+    loaded.reserve(records.size());
+    for (const Record& record : records) loaded.push_back(row_of(record, loaded.size() + 1));
+    filling.append(std::move(loaded), told);
+    filling.post_while_mine([this, list, &rows, came = records.size()] {
+        say(format(list.loaded, came));
+        quiet.tell_of_list(remark_on(list.counted, came));
+        show_count(rows.count());
+    });
+}
+
+template <class Row>
+Table_Source::Chosen<Row> Table_Source::chosen_rows(const Row_List<Row>& rows, const Table& table) {
+    Chosen<Row> chosen = desktop().ask([&] {
+        Chosen<Row> now{table.selected_rows(), {}, table.reloads()};
+        for (const int index : now.indexes)
+            now.rows.push_back(rows[static_cast<std::size_t>(index)]);
+        return now;
+    });
+    if (chosen.rows.empty()) post([this] { desktop().beep(); });
+    return chosen;
 }
 
 /// In slices that the window does not feel, and from the start again when the table was reloaded or
@@ -131,21 +195,8 @@ std::vector<Row> Table_Source::rows_on_the_screen(const Row_List<Row>& rows, con
 
 template <class Row, class Delete_One>
 bool Table_Source::delete_selected(Row_List<Row>& rows, Table& table, Delete_One delete_one) {
-    struct Chosen {
-        std::vector<int> indexes;
-        std::vector<Row> rows;
-        int reloads = 0;
-    };
-    const Chosen chosen = desktop().ask([&] {
-        Chosen now{table.selected_rows(), {}, table.reloads()};
-        for (const int index : now.indexes)
-            now.rows.push_back(rows[static_cast<std::size_t>(index)]);
-        return now;
-    });
-    if (chosen.rows.empty()) {
-        post([this] { desktop().beep(); });
-        return false;
-    }
+    const Chosen<Row> chosen = chosen_rows(rows, table);
+    if (chosen.rows.empty()) return false;
     for_each_told("Deleting", chosen.rows, delete_one);
     post([&rows, &table, indexes = chosen.indexes, reloads = chosen.reloads] {
         // A load that came in between has put other rows in their places.

@@ -37,6 +37,7 @@ struct File_Panel {
     // Opening only; new folders can always be made.
     bool files = true;
     bool folders = false;
+    std::vector<std::string> patterns = {};  // names that are shown first: "*.apk"
     bool sheet = false;  // belongs to the main window instead of standing alone
 };
 

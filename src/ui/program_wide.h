@@ -16,6 +16,7 @@ namespace velk {
 class MainDocument;
 class Contacts_TableSource;
 class SMS_TableSource;
+class App_TableSource;
 class SMS_Contacts;
 class View_Start;
 
@@ -23,6 +24,7 @@ class View_Start;
 inline MainDocument* g_window = nullptr;
 inline Contacts_TableSource* g_contacts_tablesource = nullptr;
 inline SMS_TableSource* g_sms_tablesource = nullptr;
+inline App_TableSource* g_app_tablesource = nullptr;
 inline SMS_Contacts* g_SMS_Contacts = nullptr;
 inline View_Start* g_View_Start = nullptr;
 
@@ -40,7 +42,7 @@ inline std::string g_device_serial_number;
 /// was read: what the phone counted then is no measure of its lists any more.
 inline Flag g_phone_was_changed = 0;
 
-// Actions that may start.
+// Actions that may start. Those of the other sections are members of their managers.
 inline Flag g_can_click_refresh = 1;
 inline Flag g_can_click_contacts_load = 1;
 inline Flag g_can_click_contacts_import = 1;
@@ -58,6 +60,11 @@ inline Flag g_table_app_need_refresh = 1;
 // What the phone counted, as the device summary read it.
 inline int g_int_count_contacts = 0;
 inline int g_int_count_sms = 0;
+inline int g_int_count_apps = 0;
+inline int g_int_count_photos = 0;
+inline int g_int_count_music = 0;
+inline int g_int_count_videos = 0;
+inline int g_int_count_books = 0;
 
 // The look of the toolbar.
 inline constexpr Flag g_toolbar_text_is_white = 1;

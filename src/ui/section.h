@@ -2,6 +2,7 @@
 // under it, and the buttons of its commands. The window draws them all from this description.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -29,6 +30,9 @@ struct Section {
     Label* quiet = nullptr;          // the second line, under the status line
     Detail detail = {};              // without a text there is no pane
     std::vector<Command> commands;   // left to right
+    /// Takes files and folders of the computer that were dropped on the section, by their paths;
+    /// empty where nothing is taken.
+    std::function<void(std::vector<std::string>)> take_files = {};
 };
 
 }  // namespace velk

@@ -27,7 +27,8 @@ class Fake_Adb {
         std::string errors{};
         int status = 0;
         Behaviour behaviour = Behaviour::ends;
-        unsigned repeat = 1;  // the output is written so often
+        unsigned repeat = 1;   // the output is written so often
+        std::string pulled{};  // the content of the file that a pull puts into its folder
     };
 
     /// Without answers of its own the tool prints nothing and ends with 0.
@@ -55,7 +56,8 @@ class Fake_Adb {
         std::ofstream(written, std::ios::binary)
             << "status=" << answer.status << " repeat=" << answer.repeat
             << " behaviour=" << static_cast<int>(answer.behaviour)
-            << " errors=" << quoted(answer.errors) << " output=" << quoted(answer.output);
+            << " pulled=" << quoted(answer.pulled) << " errors=" << quoted(answer.errors)
+            << " output=" << quoted(answer.output);
         std::string name = "answer " + words;
         std::replace(name.begin(), name.end(), '/', '%');
         std::filesystem::rename(written, directory_ / name);

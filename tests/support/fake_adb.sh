@@ -17,6 +17,7 @@ until [ -e "$directory/answer $words" ]; do
 done
 . "$directory/answer $words"
 
+[ -z "$pulled" ] || printf %s "$pulled" >"$3/${2##*/}"
 printf %s "$errors" >&2
 for ((; repeat > 0; --repeat)); do printf %s "$output"; done
 # Nothing that a broken test leaves behind lives longer than a minute.

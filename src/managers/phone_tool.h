@@ -1,0 +1,28 @@
+// The tool as the sections use it: for files and applications.
+#pragma once
+
+#include <string>
+
+#include "ui/desktop.h"
+
+namespace velk {
+
+/// What every command to the tool begins with.
+struct Phone_Tool {
+    std::string path;    // of the tool
+    std::string serial;  // of the phone in use
+
+    /// Logs what is about to be sent: tool, phone and the computer's file.
+    void log_with(const std::string& file) const;
+};
+
+/// The tool and the phone in use now. Any thread but one that the user-interface thread waits for.
+Phone_Tool phone_tool(Desktop& desktop);
+
+/// The last line that the tool printed; empty when it printed nothing.
+std::string last_line(const std::string& printed);
+
+/// The same, when that line tells of a failure; empty otherwise.
+std::string failure_in(const std::string& printed);
+
+}  // namespace velk

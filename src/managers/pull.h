@@ -1,0 +1,26 @@
+// How a file of the phone becomes a file in a folder of the computer.
+#pragma once
+
+#include <string>
+
+#include "managers/phone_tool.h"
+#include "ui/desktop.h"
+
+namespace velk {
+
+struct Pulled {
+    bool done = false;
+    std::string reason = {};  // why it is not, in a line
+};
+
+/// Copies the file into the folder, under its own name. Worker; blocks until the tool has ended,
+/// which closing the window makes it do. The copy counts as done when the tool printed nothing.
+///
+/// What bears that name in the folder already is moved aside meanwhile and has its name again
+/// afterwards; the new file becomes "name (2).jpg" then, with the first number that is free. What a
+/// copy that failed or was cut has left is removed. Nothing outside the folder is touched, whatever
+/// the phone's path holds: one without a name at its end is not copied.
+Pulled pull_into_folder(Desktop& desktop, const Phone_Tool& tool, const std::string& phone_path,
+                        const std::string& folder);
+
+}  // namespace velk
