@@ -70,7 +70,9 @@ void MainDocument::thread_do_refresh_function() {
     on_window([this] {
         g_can_click_refresh = 1;
         g_View_Start->Stop_Loading_Animation();
-        if (g_connected_adb) hidden_some(false);
+        if (!g_connected_adb) return;
+        hidden_some(false);
+        pane_loads_.start();
     });
 }
 

@@ -59,20 +59,25 @@ class Summary_Reader {
 
 namespace {
 
-/// A count that only becomes the title of its section's button.
+/// A count, and the title that it gives its section's button.
 struct Section_Count {
     const char* code;
     const char* what;
     const char* traced;
     Button Window_Outlets::*button;
     const char* title;
+    int& counted;
 };
 
 constexpr std::array section_counts = {
-    Section_Count{"68", "photos", "Photo Count:[%s]", &Window_Outlets::m_BT_Photo, "Photos(%s)"},
-    Section_Count{"70", "music", "Music Count:[%s]", &Window_Outlets::m_BT_Music, "Music(%s)"},
-    Section_Count{"72", "videos", "Video Count:[%s]", &Window_Outlets::m_BT_Video, "Videos(%s)"},
-    Section_Count{"74", "books", "Book Count=[%s]\n", &Window_Outlets::m_BT_Book, "Books(%s)"},
+    Section_Count{"68", "photos", "Photo Count:[%s]", &Window_Outlets::m_BT_Photo, "Photos(%s)",
+                  g_int_count_photos},
+    Section_Count{"70", "music", "Music Count:[%s]", &Window_Outlets::m_BT_Music, "Music(%s)",
+                  g_int_count_music},
+    Section_Count{"72", "videos", "Video Count:[%s]", &Window_Outlets::m_BT_Video, "Videos(%s)",
+                  g_int_count_videos},
+    Section_Count{"74", "books", "Book Count=[%s]\n", &Window_Outlets::m_BT_Book, "Books(%s)",
+                  g_int_count_books},
 };
 
 }  // namespace
@@ -146,12 +151,16 @@ void MainDocument::read_counts(Summary_Reader& phone) {
     });
     const std::string apps = phone.value("67", "number of applications");
     trace("App Count:[%s]", apps.c_str());
-    on_window([this, apps] { m_BT_Apps.set_title("Apps(" + apps + ")"); });
+    on_window([this, apps] {
+        g_int_count_apps = to_int32(apps);
+        m_BT_Apps.set_title("Apps(" + apps + ")");
+    });
     set_BT_Caption_White();
     for (const Section_Count& count : section_counts) {
         const std::string number = phone.value(count.code, count.what);
         trace(count.traced, number.c_str());
         on_window([this, &count, number] {
+            count.counted = to_int32(number);
             (this->*count.button).set_title(format(count.title, number.c_str()));
         });
     }

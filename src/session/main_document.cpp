@@ -4,8 +4,7 @@
 #include <future>
 
 #include "agent/sock_apk.h"
-#include "session/view_contacts.h"
-#include "session/view_sms.h"
+#include "session/section_views.h"
 #include "ui/program_wide.h"
 #include "ui/worker.h"
 #include "version.h"
@@ -31,12 +30,22 @@ MainDocument::MainDocument(Desktop& desktop, const std::string& directory)
     m_LevelIndicator_Size_Phone.set_value(0);
     m_LevelIndicator_Size_Storage.set_value(0);
     set_fixed_captions();
-    m_views = {std::make_unique<View_Start>(),         std::make_unique<View_AllowPCConnect>(),
-               std::make_unique<View_Contacts>(*this), std::make_unique<View_SMS>(*this),
-               std::make_unique<View_NULL>(),          std::make_unique<View_SettingPhoneUSB>(),
-               std::make_unique<View_App>(),           std::make_unique<View_Music>(),
-               std::make_unique<View_Photo>(),         std::make_unique<View_Video>(),
-               std::make_unique<View_Book>()};
+    auto music = std::make_unique<View_Music>(*this);
+    auto photos = std::make_unique<View_Photo>(*this);
+    auto videos = std::make_unique<View_Video>(*this);
+    auto books = std::make_unique<View_Book>(*this);
+    pane_loads_.take({&music->source, &photos->source, &videos->source, &books->source});
+    m_views = {std::make_unique<View_Start>(),
+               std::make_unique<View_AllowPCConnect>(),
+               std::make_unique<View_Contacts>(*this),
+               std::make_unique<View_SMS>(*this),
+               std::make_unique<View_NULL>(),
+               std::make_unique<View_SettingPhoneUSB>(),
+               std::make_unique<View_App>(*this),
+               std::move(music),
+               std::move(photos),
+               std::move(videos),
+               std::move(books)};
     for (const auto& view : m_views) view->managedObjectContext = this;
     refresh_ini_ui();
 }

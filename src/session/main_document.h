@@ -8,6 +8,7 @@
 #include <string>
 
 #include "bridge/adb_wrappers.h"
+#include "session/pane_loads.h"
 #include "session/views.h"
 #include "session/window_outlets.h"
 #include "ui/desktop.h"
@@ -139,6 +140,7 @@ class MainDocument : public Main_Window, public Window_Outlets, public Adb_Wrapp
     void show(Label& label, std::string text);
 
     Desktop& desktop_;
+    Pane_Loads pane_loads_;
 };
 
 }  // namespace velk

@@ -1,5 +1,6 @@
 // Which view the window shows, and when a section's button does anything.
 #include "base/trace.h"
+#include "managers/app_tablesource.h"
 #include "managers/contacts_tablesource.h"
 #include "managers/sms_tablesource.h"
 #include "session/main_document.h"
@@ -114,7 +115,12 @@ void MainDocument::OnBT_SMS() {
 }
 
 void MainDocument::OnBT_App() {
-    if (may_leave_the_section()) show_section(DEFINE_VIEW_App);
+    if (!may_leave_the_section()) return;
+    show_section(DEFINE_VIEW_App);
+    if (!g_table_app_need_refresh) return;
+    g_table_app_need_refresh = 0;
+    g_app_tablesource->OnBT_Refresh();
+    set_BT_Caption_White();
 }
 
 void MainDocument::OnBT_Music() {

@@ -1,5 +1,5 @@
-// The eleven content views, without a window: what each holds and does. The window draws a page
-// for each the first time that it is shown.
+// The content views, without a window: what each holds and does. The window draws a page for each
+// the first time that it is shown. Those that show a section are in section_views.h.
 #pragma once
 
 #include <array>
@@ -114,24 +114,9 @@ class View_SettingPhoneUSB : public Connection_View {
     View_SettingPhoneUSB() : Connection_View("View_SettingPhoneUSB") {}
 };
 
-/// A view with nothing of its own. Its name is all that tells one from another.
+/// An empty view.
 struct View_NULL : MainViewController {
     View_NULL() : MainViewController("View_NULL") {}
-};
-struct View_App : MainViewController {
-    View_App() : MainViewController("View_App") {}
-};
-struct View_Music : MainViewController {
-    View_Music() : MainViewController("View_Music") {}
-};
-struct View_Photo : MainViewController {
-    View_Photo() : MainViewController("View_Photo") {}
-};
-struct View_Video : MainViewController {
-    View_Video() : MainViewController("View_Video") {}
-};
-struct View_Book : MainViewController {
-    View_Book() : MainViewController("View_Book") {}
 };
 
 }  // namespace velk

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <chrono>
 
+#include "session/section_views.h"
 #include "session/session_fixture.h"
 
 namespace velk {
@@ -61,43 +62,47 @@ Lines click() {
 TEST_F(Session, shows_a_successful_attempt_in_the_order_it_happens) {
     phone_is_fine();
     refresh();
-    const Lines expected = click() +
-                           Lines{"m_LB_Connected: Connected!",
-                                 "m_LB_SerialNumber: R58 M",
-                                 "m_LB_ps: Launching the application on your phone...",
-                                 "m_LB_ps: Start communicating ...",
-                                 "m_LB_ps: Retrieving mobile phone basic information.",
-                                 "m_LB_Battery: 85%",
-                                 "m_Progress_Battery: 4",
-                                 "m_LB_Size_PhoneTotal: 2.86MB",
-                                 "m_LB_Size_PhoneTotal tool tip: 3,000,000 bytes",
-                                 "m_LB_Size_PhoneTotalFree: 976.56KB",
-                                 "m_LB_Size_PhoneTotalFree tool tip: 1,000,000 bytes",
-                                 "m_LB_Size_StorageTotal: 672.37MB",
-                                 "m_LB_Size_StorageTotal tool tip: 5,000,000,000 bytes",
-                                 "m_LB_Size_StorageTotalFree: 1.00GB",
-                                 "m_LB_Size_StorageTotalFree tool tip: 1,073,741,825 bytes",
-                                 "m_LevelIndicator_Size_Phone: 75",
-                                 "m_LevelIndicator_Size_Storage: 39",
-                                 "m_LB_USBConnect: Connected via USB",
-                                 "m_LB_AndroidVersion: 4.4.2",
-                                 "m_LB_MobileNameBig: Demo",
-                                 "m_LB_MobileName: Demo",
-                                 "m_BT_Contacts: Contacts(12x)",
-                                 "m_BT_SMS: SMS(12)",
-                                 "m_BT_Apps: Apps(30)",
-                                 "captions white",
-                                 "m_BT_Photo: Photos(40)",
-                                 "m_BT_Music: Music(60)",
-                                 "m_BT_Video: Videos(8)",
-                                 "m_BT_Book: Books(12)"} +
-                           shown("View_Start") + Lines{"m_LB_ps: Demo  is connected."} +
-                           summary_controls("shown");
+    const Lines expected =
+        click() +
+        Lines{"m_LB_Connected: Connected!",
+              "m_LB_SerialNumber: R58 M",
+              "m_LB_ps: Launching the application on your phone...",
+              "m_LB_ps: Start communicating ...",
+              "m_LB_ps: Retrieving mobile phone basic information.",
+              "m_LB_Battery: 85%",
+              "m_Progress_Battery: 4",
+              "m_LB_Size_PhoneTotal: 2.86MB",
+              "m_LB_Size_PhoneTotal tool tip: 3,000,000 bytes",
+              "m_LB_Size_PhoneTotalFree: 976.56KB",
+              "m_LB_Size_PhoneTotalFree tool tip: 1,000,000 bytes",
+              "m_LB_Size_StorageTotal: 672.37MB",
+              "m_LB_Size_StorageTotal tool tip: 5,000,000,000 bytes",
+              "m_LB_Size_StorageTotalFree: 1.00GB",
+              "m_LB_Size_StorageTotalFree tool tip: 1,073,741,825 bytes",
+              "m_LevelIndicator_Size_Phone: 75",
+              "m_LevelIndicator_Size_Storage: 39",
+              "m_LB_USBConnect: Connected via USB",
+              "m_LB_AndroidVersion: 4.4.2",
+              "m_LB_MobileNameBig: Demo",
+              "m_LB_MobileName: Demo",
+              "m_BT_Contacts: Contacts(12x)",
+              "m_BT_SMS: SMS(12)",
+              "m_BT_Apps: Apps(30)",
+              "captions white",
+              "m_BT_Photo: Photos(40)",
+              "m_BT_Music: Music(60)",
+              "m_BT_Video: Videos(8)",
+              "m_BT_Book: Books(12)"} +
+        shown("View_Start") + Lines{"m_LB_ps: Demo  is connected."} + summary_controls("shown") +
+        Lines{"m_BT_Music: Music(0)",  "captions white", "m_BT_Photo: Photos(0)", "captions white",
+              "m_BT_Video: Videos(0)", "captions white", "m_BT_Book: Books(0)",   "captions white"};
     EXPECT_EQ(folded(recorder.lines()), expected);
     EXPECT_EQ(g_connected_adb, 1);
     EXPECT_EQ(g_device_serial_number, "R58 M");
     EXPECT_EQ(g_int_count_contacts, 12);
     EXPECT_EQ(g_int_count_sms, 12);
+    EXPECT_EQ(g_int_count_apps, 30);
+    EXPECT_EQ(g_int_count_music, 60);
     EXPECT_EQ(document.busy.m_LB_Busy.text(), "");
 }
 
@@ -118,7 +123,9 @@ TEST_F(Session, asks_the_tool_and_the_agent_for_each_step_once_and_in_order) {
             "-s R58 M forward tcp:12301 tcp:12176", "-s R58 M forward tcp:12302 tcp:12166",
             "-s R58 M forward tcp:12303 tcp:12156"));
     EXPECT_THAT(agent.codes(), ElementsAre("38", "81", "85", "79", "83", "75", "77", "65", "66",
-                                           "67", "68", "70", "72", "74", "114"));
+                                           "67", "68", "70", "72", "74", "114",
+                                           // The loads in the background.
+                                           "115", "118", "117", "119"));
 }
 
 TEST_F(Session, traces_an_attempt_in_the_order_it_happens) {
@@ -199,6 +206,23 @@ TEST_F(Session, starts_no_second_attempt_while_one_runs_and_queues_none) {
     EXPECT_THAT(recorder.lines(), Contains("m_LB_ps: Phone  is detected."));
     EXPECT_THAT(recorder.lines(), Contains("m_Control_Box1: View_Start"));
     EXPECT_THAT(adb.call_lines(), ElementsAre("devices"));
+}
+
+TEST_F(Session, loads_each_list_behind_an_attempt_also_where_an_earlier_load_still_runs) {
+    phone_is_fine();
+    std::promise<void> answer;
+    Agent_Double::Reply late;
+    late.pieces.push_back({"", {}, answer.get_future().share()});
+    agent.reply_once_to(118, late);
+    dynamic_cast<View_Photo&>(*document.m_views[DEFINE_VIEW_Photo]).source.OnBT_Refresh();
+    ASSERT_TRUE(desktop.pump_until([&] { return agent.requests().size() == 1; }));
+    document.OnBT_Refresh();
+    ASSERT_TRUE(desktop.pump_until([&] { return agent.codes().back() == "115"; }));
+    ASSERT_TRUE(desktop.pump_until([] { return Worker::running() == 1; }));
+    answer.set_value();
+    desktop.finish_work();
+    const Lines codes = agent.codes();
+    EXPECT_THAT(Lines(codes.end() - 4, codes.end()), ElementsAre("115", "118", "117", "119"));
 }
 
 TEST_F(Session, returns_to_a_screen_without_phone_when_it_is_pulled_out) {

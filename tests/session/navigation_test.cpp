@@ -37,6 +37,7 @@ TEST_F(Navigation, opens_a_section_when_connected_and_keeps_a_person_where_work_
     g_connected_adb = 1;
     g_table_contacts_need_refresh = 0;
     g_table_sms_need_refresh = 0;
+    g_table_app_need_refresh = 0;
     expect(true, four);
     expect(true, media);
     for (Flag* working :
@@ -61,7 +62,7 @@ TEST_F(Navigation, gives_a_section_the_window_and_my_android_the_summary_alone) 
     EXPECT_EQ(view_in_the_box(), "nothing");
 }
 
-TEST_F(Navigation, reloads_contacts_and_messages_once_after_a_refresh) {
+TEST_F(Navigation, reloads_contacts_messages_and_applications_once_after_a_refresh) {
     phone_is_fine();
     agent.reply_to(14, Agent_Double::contacts({{"7", "Ann", "555"}}));
     agent.reply_to(47, Agent_Double::messages({{"555", "hi", "today"}}));
@@ -75,9 +76,12 @@ TEST_F(Navigation, reloads_contacts_and_messages_once_after_a_refresh) {
         desktop.finish_work();
         EXPECT_EQ(g_sms_tablesource->table_rows.size(), 1U) << visit;
         EXPECT_EQ(g_sms_tablesource->m_LB_Tel.text(), visit == 1 ? "" : "before");
+        document.OnBT_App();
+        desktop.finish_work();
     }
     EXPECT_THAT(agent.codes(), testing::Contains("14").Times(1));
     EXPECT_THAT(agent.codes(), testing::Contains("47").Times(1));
+    EXPECT_THAT(agent.codes(), testing::Contains("116").Times(1));
 }
 
 TEST_F(Navigation, changes_nothing_but_beeps_while_an_editor_keeps_the_focus) {

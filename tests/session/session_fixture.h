@@ -40,12 +40,9 @@ class Session : public testing::Test {
         for (const auto& [code, text] : values) agent.reply_to(code, Agent_Double::value(text));
     }
 
-    void wait_for_the_attempt() {
-        desktop.pump_until([] { return Worker::running() == 0; });
-        desktop.pump();
-    }
+    void wait_for_the_attempt() { desktop.finish_work(); }
 
-    /// Presses Refresh and waits for the end of the attempt.
+    /// Presses Refresh and waits for the end of the attempt and of the loads behind it.
     void refresh() {
         document.OnBT_Refresh();
         wait_for_the_attempt();
@@ -57,10 +54,12 @@ class Session : public testing::Test {
     }
 
     Fake_Adb adb;
-    Agent_Double agent;
     Test_Desktop desktop;
     Outlet_Recorder recorder;
     MainDocument document{desktop, adb.directory()};
+    /// The sections have tried to load before there was an agent.
+    const bool first_loads_have_ended = (desktop.finish_work(), true);
+    Agent_Double agent;
 
   private:
     void watch_everything() {

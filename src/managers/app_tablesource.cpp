@@ -1,0 +1,183 @@
+#include "managers/app_tablesource.h"
+
+#include <utility>
+
+#include "base/trace.h"
+#include "bridge/adb_command.h"
+#include "managers/phone_tool.h"
+#include "ui/for_thread_var.h"
+#include "ui/program_wide.h"
+
+namespace velk {
+
+namespace {
+
+const Phone_List<sock_apk::APP_RECORD> phone_list = {
+    .name = "applications",
+    .code = "116",
+    .fetch = &sock_apk::send_command_get_app_list,
+    .loaded = "There are %zu application(s) on your Mobile Phone.",
+    .counted = g_int_count_apps};
+
+}  // namespace
+
+App_TableSource::App_TableSource(Main_Window& window)
+    : Table_Source(window, {.name = "App",
+                            .status = m_LB_message,
+                            .may_load = g_can_click_load,
+                            .button = Toolbar_Section::apps,
+                            .button_title = "Apps"}) {
+    g_app_tablesource = this;
+    m_table.on_selection([this] { OnTable_Selected(); });
+    section.title = "Applications";
+    section.empty_text = "The applications on your phone are listed here.";
+    section.search_text = "Search names and packages";
+    section.table = &m_table;
+    section.take_files = [this](std::vector<std::string> paths) {
+        quiet.tell_reason("");
+        Install_Files(std::move(paths));
+    };
+    set_commands({
+        {.name = "OnBT_App_Install",
+         .caption = "Install",
+         .icon = "install",
+         .run = [this] { OnBT_App_Install(); },
+         .guard = &g_can_click_app_install},
+        {.name = "OnBT_App_Uninstall",
+         .caption = "Uninstall",
+         .icon = "uninstall",
+         .run = [this] { OnBT_App_Uninstall(); },
+         .guard = &g_can_click_app_uninstall,
+         .on_delete_key = true},
+        {.name = "OnBT_Refresh",
+         .caption = "Refresh",
+         .icon = "refresh",
+         .run = [this] { OnBT_Refresh(); },
+         .guard = &g_can_click_load},
+    });
+    Load();
+}
+
+App_TableSource::~App_TableSource() {
+    g_app_tablesource = nullptr;
+}
+
+void App_TableSource::OnTable_Selected() {
+    selected_row = m_table.selected_row();
+}
+
+void App_TableSource::refresh_button_app_title() {
+    show_count(table_rows.count());
+}
+
+// --- load -------------------------------------------------------------------------------------
+
+void App_TableSource::OnBT_Refresh() {
+    if (g_can_click_load) Load();
+}
+
+void App_TableSource::Load() {
+    if (g_can_click_load)
+        start_load([this] { TableView_FullData(); });
+    else
+        window_.show_message("Please wait for a few minutes to load your applications.");
+}
+
+void App_TableSource::TableView_FullData() {
+    fill_from_phone(table_rows, m_table, phone_list, [this](const App_TableSource_Column& row) {
+        // It counts from 0 here, unlike the rows.
+        say(format("Loading No.%d '%s' application......", to_int32(row.col_no) - 1,
+                   row.col_app_name.c_str()));
+    });
+}
+
+// --- install ----------------------------------------------------------------------------------
+
+void App_TableSource::get_fullpath(std::function<void(const std::string&)> chosen) {
+    desktop().open_file_panel({.message = "select a file(*.apk).",
+                               .prompt = "OK",
+                               .folders = true,
+                               .patterns = {"*.apk"}},
+                              std::move(chosen));
+}
+
+void App_TableSource::OnBT_App_Install() {
+    // A person who cancels installs the empty path; it has always been so.
+    get_fullpath([this](const std::string& path) { Install_APK_To_Phone(path); });
+}
+
+void App_TableSource::Install_Files(std::vector<std::string> paths) {
+    start_guarded(desktop(), g_can_click_app_install, "install",
+                  [this, paths = std::move(paths)](Held_Flag& installing) {
+                      for_each_told("Installing on the phone", paths,
+                                    [this](const std::string& path) { adb_install_apk(path); });
+                      show_change(installing);
+                  });
+}
+
+void App_TableSource::adb_install_apk(const std::string& path) {
+    log_line("V1 == %s", path.c_str());
+    post_status(format("Installing file '%s'.", path.c_str()));
+    const Phone_Tool tool = phone_tool(desktop());
+    tool.log_with(path);
+    post_change();
+    const std::string printed = ADB_Command().Install_Apk_To_Android(tool.path, tool.serial, path);
+    log_line("%s", printed.c_str());
+    tell_failure(printed);
+    // Whatever the tool printed; the quiet line has its reason.
+    post_status("Installed Successfully!");
+}
+
+// --- uninstall --------------------------------------------------------------------------------
+
+void App_TableSource::OnBT_App_Uninstall() {
+    if (selected_row < 0 || selected_row >= table_rows.count()) return;
+    const App_TableSource_Column& row = table_rows[static_cast<std::size_t>(selected_row)];
+    const std::string question = format("Are you sure you want to delete the selected \"%s\" App?",
+                                        row.col_app_name.c_str());
+    ask_person(yes_or_no(question),
+               [this, name = row.col_app_name, package = row.col_app_name_package] {
+                   say(format("Uninstalling application '%s'.", name.c_str()));
+                   Delete_APP(package);
+               });
+}
+
+void App_TableSource::Delete_APP(const std::string& package) {
+    For_Thread_Var arguments;
+    arguments.m_contacts_import_file_name = package;
+    start_guarded(desktop(), g_can_click_app_uninstall, "uninstall",
+                  [this, arguments](Held_Flag& uninstalling) {
+                      const Busy_Note note = busy("Uninstalling from the phone");
+                      adb_uninstall_apk(arguments.m_contacts_import_file_name);
+                      show_change(uninstalling);
+                  });
+}
+
+void App_TableSource::adb_uninstall_apk(const std::string& package) {
+    const Phone_Tool tool = phone_tool(desktop());
+    post_change();
+    std::string printed;
+    const std::string verdict =
+        ADB_Command().Uninstall_Apk_From_Android(tool.path, tool.serial, package, &printed);
+    log_line("%s", verdict.c_str());
+    tell_failure(printed);
+    post_status(verdict);
+}
+
+// --- both -------------------------------------------------------------------------------------
+
+void App_TableSource::tell_failure(const std::string& printed) {
+    const std::string failure = failure_in(printed);
+    if (!failure.empty()) post([this, failure] { quiet.tell_reason(failure); });
+}
+
+void App_TableSource::show_change(Held_Flag& running) {
+    post([this] { refresh_button_app_title(); });
+    running.give_back();
+    post([this] {
+        list_may_be_old(g_table_app_need_refresh);
+        Load();
+    });
+}
+
+}  // namespace velk

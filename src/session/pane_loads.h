@@ -1,0 +1,31 @@
+// The loads that follow a connection by themselves.
+#pragma once
+
+#include <deque>
+#include <vector>
+
+namespace velk {
+
+class File_TableSource;
+
+/// Music, photos, videos and books have no button that reloads them after a connection, so the
+/// session has each load its list once, one after the other. A section that is loading already
+/// refuses a load, for that list may be an earlier phone's: here the wish is kept until it has
+/// ended. User-interface thread.
+class Pane_Loads {
+  public:
+    /// The sections, in the order in which they load; they live as long as the window.
+    void take(std::vector<File_TableSource*> panes);
+    /// Wishes one load of each; what is left of earlier wishes is dropped.
+    void start();
+
+  private:
+    void has_ended(const File_TableSource* pane);
+    void go_on();
+
+    std::vector<File_TableSource*> panes_;
+    std::deque<File_TableSource*> wished_;  // the first is waited for, or being loaded
+    bool first_has_started_ = false;
+};
+
+}  // namespace velk
