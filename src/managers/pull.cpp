@@ -63,9 +63,10 @@ std::string numbered(const fs::path& name, int number) {
     return stem.substr(0, length) + end;
 }
 
-bool rename_to_numbered(const fs::path& file) {
+/// Gives it the first name like this that is free.
+bool rename_to_numbered(const fs::path& from, const fs::path& file) {
     for (int number = 2;; ++number) {
-        if (rename_to_free(file, file.parent_path() / numbered(file.filename(), number)))
+        if (rename_to_free(from, file.parent_path() / numbered(file.filename(), number)))
             return true;
         if (errno != EEXIST) return false;
     }
@@ -84,7 +85,8 @@ class Moved_Aside {
         stuck_ = true;
     }
     ~Moved_Aside() {
-        if (moved()) rename_to_free(aside_, file_);
+        // Should another program have taken the name meanwhile, the file must be seen all the same.
+        if (moved() && !rename_to_free(aside_, file_)) rename_to_numbered(aside_, file_);
     }
     Moved_Aside(const Moved_Aside&) = delete;
     Moved_Aside& operator=(const Moved_Aside&) = delete;
@@ -117,7 +119,7 @@ Pulled pull_into_folder(Desktop& desktop, const Phone_Tool& tool, const std::str
     const std::string printed =
         ADB_Command().Pull_File_To_Computer(tool.path, tool.serial, phone_path, folder);
     Pulled pulled{.done = printed.empty() && !desktop.closing(), .reason = last_line(printed)};
-    if (pulled.done && old.moved() && is_there(file) && !rename_to_numbered(file))
+    if (pulled.done && old.moved() && is_there(file) && !rename_to_numbered(file, file))
         pulled = {.reason = std::strerror(errno)};
     if (!pulled.done) fs::remove_all(file, error);
     return pulled;
