@@ -38,7 +38,7 @@ struct File_Panel {
     bool files = true;
     bool folders = false;
     std::vector<std::string> patterns = {};  // names that are shown first: "*.apk"
-    bool sheet = false;  // belongs to the main window instead of standing alone
+    bool sheet = false;                      // belongs to the main window instead of standing alone
 };
 
 }  // namespace velk
