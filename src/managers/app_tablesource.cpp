@@ -12,6 +12,8 @@ namespace velk {
 
 namespace {
 
+constexpr const char* package_names = "*.apk";
+
 const Phone_List<sock_apk::APP_RECORD> phone_list = {
     .name = "applications",
     .code = "116",
@@ -33,10 +35,14 @@ App_TableSource::App_TableSource(Main_Window& window)
     section.empty_text = "The applications on your phone are listed here.";
     section.search_text = "Search names and packages";
     section.table = &m_table;
-    section.take_files = [this](std::vector<std::string> paths) {
-        quiet.tell_reason("");
-        Install_Files(std::move(paths));
-    };
+    section.drop = {.take =
+                        [this](std::vector<std::string> paths) {
+                            quiet.tell_reason("");
+                            Install_Files(std::move(paths));
+                        },
+                    .hint = "Drop applications (*.apk) here to install them on your phone.",
+                    .patterns = {package_names},
+                    .guard = &g_can_click_app_install};
     set_commands({
         {.name = "OnBT_App_Install",
          .caption = "Install",
@@ -97,7 +103,7 @@ void App_TableSource::get_fullpath(std::function<void(const std::string&)> chose
     desktop().open_file_panel({.message = "select a file(*.apk).",
                                .prompt = "OK",
                                .folders = true,
-                               .patterns = {"*.apk"}},
+                               .patterns = {package_names}},
                               std::move(chosen));
 }
 

@@ -29,10 +29,14 @@ File_TableSource::File_TableSource(Main_Window& window, const File_Pane& pane, T
     section.empty_text = format("The %s on your phone are listed here.", pane.files);
     section.search_text = format("Search %s", pane.files);
     section.table = &m_table;
-    section.take_files = [this](std::vector<std::string> paths) {
-        quiet.tell_reason("");
-        Add_Files(std::move(paths));
-    };
+    section.drop = {
+        .take =
+            [this](std::vector<std::string> paths) {
+                quiet.tell_reason("");
+                Add_Files(std::move(paths));
+            },
+        .hint = format("Drop files here to add them to the %s on your phone.", pane.files),
+        .guard = &pane.may_add};
     set_commands({
         {.name = "OnBT_Add",
          .caption = "Add",

@@ -91,6 +91,9 @@ class MainDocument : public Main_Window, public Window_Outlets, public Adb_Wrapp
     void show_allow_pc_connect_view();
     void show_setting_phone_usb_view();
 
+    /// True while lists come by themselves after a connection.
+    bool lists_are_coming() const { return !pane_loads_.all_ended(); }
+
     /// The content views; a view's id is its index.
     std::array<std::unique_ptr<MainViewController>, 11> m_views;
     Colour m_color_toolbar_button = white;

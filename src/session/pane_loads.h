@@ -18,6 +18,8 @@ class Pane_Loads {
     void take(std::vector<File_TableSource*> panes);
     /// Wishes one load of each; what is left of earlier wishes is dropped.
     void start();
+    /// The phone that was connected last has been asked for all these lists.
+    bool all_ended() const { return wished_.empty(); }
 
   private:
     void has_ended(const File_TableSource* pane);

@@ -9,6 +9,10 @@ namespace velk {
 
 namespace {
 
+bool is_drag(QEvent::Type type) {
+    return type == QEvent::DragEnter || type == QEvent::DragMove || type == QEvent::Drop;
+}
+
 bool is_input(QEvent::Type type) {
     switch (type) {
         case QEvent::MouseButtonPress:
@@ -29,12 +33,9 @@ bool is_input(QEvent::Type type) {
         case QEvent::TabletMove:
         case QEvent::TabletRelease:
         case QEvent::NativeGesture:
-        case QEvent::DragEnter:
-        case QEvent::DragMove:
-        case QEvent::Drop:
             return true;
         default:
-            return false;
+            return is_drag(type);
     }
 }
 
@@ -65,7 +66,8 @@ bool Input_Hold::eventFilter(QObject* watched, QEvent* event) {
     if (!is_input(event->type()) || !is_held(watched)) return false;
     // The system's window keeps a tally of the buttons that are down.
     if (event->type() == QEvent::MouseButtonRelease && watched->isWindowType()) return false;
-    event->accept();
+    // What is dragged over the window finds nobody there.
+    event->setAccepted(!is_drag(event->type()));
     return true;
 }
 

@@ -56,6 +56,12 @@ QFileDialog::FileMode mode_of(const File_Panel& panel) {
     return panel.files ? QFileDialog::ExistingFile : QFileDialog::Directory;
 }
 
+QStringList filters_of(const File_Panel& panel) {
+    QStringList patterns;
+    for (const std::string& pattern : panel.patterns) patterns << shown(pattern);
+    return {patterns.join(u' '), QStringLiteral("All files (*)")};
+}
+
 /// The toolkit's own panel on every desktop: one that the desktop lends asks about names that
 /// exist, and takes either files or folders.
 class File_Box : public QFileDialog {
@@ -68,6 +74,7 @@ class File_Box : public QFileDialog {
         setFileMode(mode_of(panel));
         setOption(ShowDirsOnly, !panel.files);
         setAcceptMode(panel.kind == File_Panel::Kind::save ? AcceptSave : AcceptOpen);
+        if (!panel.patterns.empty()) setNameFilters(filters_of(panel));
         if (!panel.title.empty()) setWindowTitle(shown(panel.title));
         if (!panel.message.empty()) show_message();
         if (!panel.prompt.empty()) keep_prompt();

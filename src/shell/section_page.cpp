@@ -7,6 +7,7 @@
 #include <QSplitter>
 
 #include "shell/detail_pane.h"
+#include "shell/drop_area.h"
 #include "shell/look.h"
 #include "shell/row_table.h"
 #include "shell/search_box.h"
@@ -36,6 +37,7 @@ Section_Page::Section_Page(const Section& section, const Window_Parts& parts)
     column->addLayout(command_row());
     column->addWidget(table_and_detail(), 1);
     column->addLayout(status_lines());
+    if (section.drop.take) new Drop_Area(section.drop, this);
 }
 
 QLayout* Section_Page::title_row() {

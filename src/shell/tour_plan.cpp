@@ -66,6 +66,7 @@ void Tour::plan_section(int id, const char* button) {
                       .reached =
                           [this, view, section] {
                               return shows(view) && all_guards_are_up(*section) &&
+                                     !document_.lists_are_coming() &&
                                      document_.busy.m_LB_Busy.text().empty();
                           },
                       .report =

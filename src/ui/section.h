@@ -20,6 +20,14 @@ struct Detail {
     std::string empty_text;     // what it says while nothing is selected
 };
 
+/// What becomes of files and folders of the computer that a person drops on a section.
+struct Dropped_Files {
+    std::function<void(std::vector<std::string> paths)> take;  // empty where nothing is taken
+    std::string hint = {};                   // what is said while they are held over the section
+    std::vector<std::string> patterns = {};  // of the names that are taken, "*.apk"; empty for all
+    const Flag* guard = nullptr;             // nothing is taken while this is 0
+};
+
 struct Section {
     std::string title;        // the table's accessible name: "Contacts"
     std::string empty_text;   // what an empty table says it would show
@@ -30,9 +38,7 @@ struct Section {
     Label* quiet = nullptr;          // the second line, under the status line
     Detail detail = {};              // without a text there is no pane
     std::vector<Command> commands;   // left to right
-    /// Takes files and folders of the computer that were dropped on the section, by their paths;
-    /// empty where nothing is taken.
-    std::function<void(std::vector<std::string>)> take_files = {};
+    Dropped_Files drop = {};
 };
 
 }  // namespace velk

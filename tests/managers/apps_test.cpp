@@ -57,7 +57,7 @@ TEST_F(Apps, install_whatever_was_chosen_and_say_quietly_why_it_failed) {
         EXPECT_EQ(quiet(), path.empty() ? "adb: failed to stat : none" : "");
     }
     const std::size_t loads = agent.codes().size();
-    apps.section.take_files({"/1.apk", "/2.apk"});
+    apps.section.drop.take({"/1.apk", "/2.apk"});
     finish();
     EXPECT_EQ(adb.calls().back().back(), "/2.apk");
     EXPECT_EQ(agent.codes().size(), loads + 1);

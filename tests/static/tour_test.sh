@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# The whole program at work: a tour of the demo phone ends well, has found its contacts and has left
-# a picture of them.
+# The whole program at work: a tour of the demo phone ends well, has found its contacts and photos and
+# has left a picture of the contacts.
 #
 #   tour_test.sh with_demo_phone.sh VELK
 set -euo pipefail
@@ -8,5 +8,6 @@ folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT
 printed=$(QT_QPA_PLATFORM=offscreen VELK_BIN=$(dirname "$2") "$1" "$2" --tour "$folder")
 grep -q '^Contacts: 240 rows$' <<<"$printed"
+grep -q '^Photos: 40 rows$' <<<"$printed"
 grep -q '^Toolbar: SMS(1500)$' <<<"$printed"
 [ -s "$folder"/*-contacts.png ]
