@@ -23,12 +23,6 @@ constexpr mode_t mode_of_a_new_file = 0666;  // less the umask
 constexpr mode_t mode_bits = 07777;
 constexpr int most_links = 40;  // the kernel's own limit for one path
 
-/// The system's reason in the window's language, whatever the person's is.
-std::string reason(int error) {
-    static const locale_t english = ::newlocale(LC_ALL_MASK, "C", nullptr);
-    return ::strerror_l(error, english);
-}
-
 /// The place that the symbolic links at `path` lead to, whether or not something is there.
 std::filesystem::path behind_links(std::filesystem::path path) {
     std::error_code error;
@@ -139,16 +133,21 @@ bool write_over(const std::filesystem::path& target, std::string_view content,
 }  // namespace
 
 std::string write_whole_file(const std::string& path, std::string_view content) {
-    if (path.empty()) return reason(ENOENT);
+    if (path.empty()) return system_reason(ENOENT);
     const std::filesystem::path target = behind_links(path);
     struct stat found {};
     const bool is_there = ::stat(target.c_str(), &found) == 0;
-    if (!is_there && errno != ENOENT) return reason(errno);
-    if (is_there && S_ISDIR(found.st_mode)) return reason(EISDIR);
+    if (!is_there && errno != ENOENT) return system_reason(errno);
+    if (is_there && S_ISDIR(found.st_mode)) return system_reason(EISDIR);
     // Whoever may change the folder could replace a file that says it must not be written.
-    if (is_there && ::access(target.c_str(), W_OK) != 0) return reason(errno);
+    if (is_there && ::access(target.c_str(), W_OK) != 0) return system_reason(errno);
     const bool done = is_there ? write_over(target, content, found) : write_new(target, content);
-    return done ? "" : reason(errno);
+    return done ? "" : system_reason(errno);
+}
+
+std::string system_reason(int error) {
+    static const locale_t english = ::newlocale(LC_ALL_MASK, "C", nullptr);
+    return ::strerror_l(error, english);
 }
 
 std::string hidden_name() {

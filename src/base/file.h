@@ -18,6 +18,9 @@ namespace velk {
 /// has room for all of it, as far as the disk can tell.
 std::string write_whole_file(const std::string& path, std::string_view content);
 
+/// The system's reason for an error number in the window's language, whatever the person's is.
+std::string system_reason(int error);
+
 /// A file name that no other file of this program bears, for what stands beside another file for a
 /// while. Hidden, and short enough for every disk.
 std::string hidden_name();

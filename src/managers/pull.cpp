@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
-#include <cstring>
 #include <filesystem>
 #include <mutex>
 #include <system_error>
@@ -114,13 +113,13 @@ Pulled pull_into_folder(Desktop& desktop, const Phone_Tool& tool, const std::str
     if (!fs::is_directory(folder, error)) return {.reason = "That folder is not there."};
     const fs::path file = fs::path(folder) / name;
     const Moved_Aside old(file);
-    if (old.stuck()) return {.reason = std::strerror(errno)};
+    if (old.stuck()) return {.reason = system_reason(errno)};
 
     const std::string printed =
         ADB_Command().Pull_File_To_Computer(tool.path, tool.serial, phone_path, folder);
     Pulled pulled{.done = printed.empty() && !desktop.closing(), .reason = last_line(printed)};
     if (pulled.done && old.moved() && is_there(file) && !rename_to_numbered(file, file))
-        pulled = {.reason = std::strerror(errno)};
+        pulled = {.reason = system_reason(errno)};
     if (!pulled.done) fs::remove_all(file, error);
     return pulled;
 }
