@@ -69,6 +69,7 @@ const File_Pane photo_pane = {
     .delete_code = &sock_apk::getCommand_DelPhotoFile,
     .has_ids = true,
     .export_button = "OnBT_Export_Photo",
+    .pictures = {"photo_file_path", "photo_size"},
     .may_load = Photo_TableSource::g_can_click_sms_load,
     .may_add = Photo_TableSource::g_can_click_add_photo,
     .may_delete = Photo_TableSource::g_can_click_delete_photo,

@@ -29,6 +29,7 @@ File_TableSource::File_TableSource(Main_Window& window, const File_Pane& pane, T
     section.empty_text = format("The %s on your phone are listed here.", pane.files);
     section.search_text = format("Search %s", pane.files);
     section.table = &m_table;
+    section.pictures = pane.pictures;
     section.drop = {
         .take =
             [this](std::vector<std::string> paths) {

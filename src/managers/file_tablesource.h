@@ -27,7 +27,8 @@ struct File_Pane {
     int (sock_apk::*delete_code)() const;
     bool has_ids;               // the phone knows the files by ids, too
     const char* export_button;  // the name of the button's handler
-    Flag& may_load;             // the can-click flags
+    Picture_Columns pictures = {};
+    Flag& may_load;  // the can-click flags
     Flag& may_add;
     Flag& may_delete;
     Flag& may_export;

@@ -18,6 +18,7 @@ void Guards::connect_button(QAbstractButton* button, const Flag* guard, std::fun
 void Guards::look_again() {
     for (const Guarded& guarded : guarded_)
         if (guarded.button) guarded.button->setEnabled(*guarded.guard != 0);
+    for (const auto& look : others_) look();
 }
 
 }  // namespace velk

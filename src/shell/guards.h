@@ -4,6 +4,7 @@
 #include <QObject>
 #include <QPointer>
 #include <functional>
+#include <utility>
 #include <vector>
 
 #include "ui/section.h"
@@ -20,6 +21,9 @@ class Guards : public QObject {
     /// without a guard is always enabled.
     void connect_button(QAbstractButton* button, const Flag* guard, std::function<void()> run);
 
+    /// Calls `look` whenever a flag may have changed; both live as long as the window.
+    void on_look(std::function<void()> look) { others_.push_back(std::move(look)); }
+
     /// Looks at all flags again; to be called when something may have changed one.
     void look_again();
 
@@ -29,6 +33,7 @@ class Guards : public QObject {
         const Flag* guard;
     };
     std::vector<Guarded> guarded_;
+    std::vector<std::function<void()>> others_;
 };
 
 }  // namespace velk

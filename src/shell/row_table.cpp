@@ -221,11 +221,15 @@ void Row_Table::focusInEvent(QFocusEvent* event) {
 
 void Row_Table::paintEvent(QPaintEvent* event) {
     QTableView::paintEvent(event);
+    say_when_empty(viewport());
+}
+
+void Row_Table::say_when_empty(QWidget* on) const {
     if (model_->rowCount() > 0) return;
     const bool found_nothing = table_.rows().count() > 0;
-    QPainter painter(viewport());
+    QPainter painter(on);
     painter.setPen(Look::now().muted);
-    painter.drawText(viewport()->rect().adjusted(24, 24, -24, -24),
+    painter.drawText(on->rect().adjusted(24, 24, -24, -24),
                      static_cast<int>(Qt::AlignCenter) | Qt::TextWordWrap,
                      found_nothing ? QStringLiteral("Nothing matches.") : empty_text_);
 }

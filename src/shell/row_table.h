@@ -24,6 +24,12 @@ class Row_Table : public QTableView {
     /// goes, or when they come to lie in too many places for the view to paint them in time.
     void search(const QString& typed);
 
+    Table_Model& table_model() { return *model_; }
+    /// Selects in the view what is selected in the table, as far as it is in sight.
+    void restore_selection();
+    /// Paints why nothing is to be seen, while there are no rows.
+    void say_when_empty(QWidget* on) const;
+
   protected:
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
@@ -35,7 +41,6 @@ class Row_Table : public QTableView {
     void set_up_columns();
     void show_changes();
     void report_selection();
-    void restore_selection();
     void sort_by(int column);
     void show_arrow();
     void copy_selection() const;

@@ -5,10 +5,13 @@
 #include <QPushButton>
 #include <QShortcut>
 #include <QSplitter>
+#include <QStackedWidget>
 
+#include "session/main_document.h"
 #include "shell/detail_pane.h"
 #include "shell/drop_area.h"
 #include "shell/look.h"
+#include "shell/picture_list.h"
 #include "shell/row_table.h"
 #include "shell/search_box.h"
 #include "shell/text_label.h"
@@ -30,6 +33,7 @@ Section_Page::Section_Page(const Section& section, const Window_Parts& parts)
       table_(new Row_Table(*section.table, parts.binding, shown(section.empty_text))) {
     table_->setObjectName(shown(section.table->name()));
     table_->setAccessibleName(shown(section.title));
+    if (section.pictures.path_column) make_pictures();
     auto* const column = new QVBoxLayout(this);
     column->setContentsMargins(large_space, space_between, large_space, small_space);
     column->setSpacing(space_between_lines);
@@ -47,6 +51,7 @@ QLayout* Section_Page::title_row() {
     title->setFont(scaled_font(1.45, true));
     row->addWidget(title);
     row->addStretch(1);
+    if (pictures_) row->addLayout(view_switch());
     row->addWidget(new Search_Box(*table_, shown(section_.search_text), this), 1);
     return row;
 }
@@ -58,15 +63,60 @@ QLayout* Section_Page::command_row() {
         QPushButton* const button = command_button(command, parts_.guards, this);
         row->addWidget(button);
         if (!command.on_delete_key) continue;
-        auto* const key =
-            new QShortcut(QKeySequence::Delete, table_, nullptr, nullptr, Qt::WidgetShortcut);
-        connect(key, &QShortcut::activated, button, &QPushButton::click);
+        for (QWidget* const rows :
+             {static_cast<QWidget*>(table_), static_cast<QWidget*>(pictures_)}) {
+            if (!rows) continue;
+            auto* const key =
+                new QShortcut(QKeySequence::Delete, rows, nullptr, nullptr, Qt::WidgetShortcut);
+            connect(key, &QShortcut::activated, button, &QPushButton::click);
+        }
     }
     row->addStretch();
     return row;
 }
 
+void Section_Page::make_pictures() {
+    pictures_ = new Picture_List(section_, *table_, parts_.document.desktop());
+    pictures_->setObjectName(table_->objectName() + QStringLiteral("_pictures"));
+    pictures_->setAccessibleName(table_->accessibleName());
+    parts_.guards.on_look([list = pictures_] { list->go_on(); });
+}
+
+// Two buttons like one, of which one half is down.
+QLayout* Section_Page::view_switch() {
+    auto* const both = new QHBoxLayout;
+    set_tight(both, 0);
+    auto* const list = new QPushButton(QStringLiteral("List"), this);
+    auto* const pictures = new QPushButton(QStringLiteral("Pictures"), this);
+    list->setObjectName(QStringLiteral("view_list"));
+    pictures->setObjectName(QStringLiteral("view_pictures"));
+    list->setProperty("half", "left");
+    pictures->setProperty("half", "right");
+    for (QPushButton* const half : {list, pictures}) {
+        half->setCheckable(true);
+        half->setAutoExclusive(true);
+        both->addWidget(half);
+    }
+    list->setChecked(true);
+    connect(pictures, &QPushButton::toggled, this, &Section_Page::show_pictures);
+    return both;
+}
+
+// Who wants the table to have the keys, gives them to what stands in its place.
+void Section_Page::show_pictures(bool pictures) {
+    table_->setFocusProxy(pictures ? pictures_ : nullptr);
+    views_->setCurrentWidget(pictures ? static_cast<QWidget*>(pictures_) : table_);
+    const QModelIndex current = table_->currentIndex();
+    if (current.isValid()) pictures ? pictures_->scrollTo(current) : table_->scrollTo(current);
+}
+
 QWidget* Section_Page::table_and_detail() {
+    if (pictures_) {
+        views_ = new QStackedWidget(this);
+        views_->addWidget(table_);
+        views_->addWidget(pictures_);
+        return views_;
+    }
     if (!section_.detail.text) return table_;
     auto* const both = new QSplitter(Qt::Horizontal, this);
     both->setChildrenCollapsible(false);

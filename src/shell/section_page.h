@@ -6,9 +6,11 @@
 #include "ui/section.h"
 
 class QLayout;
+class QStackedWidget;
 
 namespace velk {
 
+class Picture_List;
 class Row_Table;
 
 /// The page of any section, drawn from its description: its title and search box, its commands,
@@ -25,10 +27,15 @@ class Section_Page : public QWidget {
     QLayout* command_row();
     QWidget* table_and_detail();
     QLayout* status_lines();
+    void make_pictures();
+    QLayout* view_switch();
+    void show_pictures(bool pictures);
 
     const Section& section_;
     Window_Parts parts_;
     Row_Table* table_;
+    Picture_List* pictures_ = nullptr;  // the same rows, where they can be looked at
+    QStackedWidget* views_ = nullptr;   // which holds both
 };
 
 }  // namespace velk

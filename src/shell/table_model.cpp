@@ -31,6 +31,10 @@ const Column& Table_Model::column(int column) const {
     return table_.rows().columns()[static_cast<std::size_t>(table_column(column))];
 }
 
+int Table_Model::view_column(int column) const {
+    return static_cast<int>(std::find(columns_.begin(), columns_.end(), column) - columns_.begin());
+}
+
 int Table_Model::table_row(int row) const {
     return searching() ? found_[static_cast<std::size_t>(row)] : row;
 }

@@ -33,6 +33,8 @@ class Table_Model : public QAbstractTableModel {
     int view_row(int row) const;
     /// The table's column that the view shows at this place; hidden ones are left out.
     int table_column(int column) const { return columns_[static_cast<std::size_t>(column)]; }
+    /// Where the view shows the table's column, which is not hidden.
+    int view_column(int column) const;
     const Column& column(int column) const;
 
     int rowCount(const QModelIndex& parent = {}) const override;

@@ -45,6 +45,7 @@ class Tour : public QObject {
     void plan_section(int view, const char* button);
     void plan_contacts(const Section& section);
     void plan_messages(const Section& section);
+    void plan_pictures(const std::string& name, const Section& section);
     void plan_first_row(const std::string& name, const Section& section);
     void plan_dialog(const std::string& name, const char* button, const char* dialog);
     void plan_end_of_dialog(const char* dialog);

@@ -7,6 +7,7 @@
 #include "base/text.h"
 #include "managers/contacts_tablesource.h"
 #include "session/main_document.h"
+#include "shell/picture_list.h"
 #include "shell/tour.h"
 #include "shell/velk_window.h"
 #include "shell/widgets.h"
@@ -21,11 +22,6 @@ bool the_points_run() {
     const Image& first = g_View_Start->m_Image_loading_1;
     const bool lit = first.picture() == g_PicFileName_LoadingAnimation_Light;
     return !first.hidden() && (lit || g_loading_animation_stop);
-}
-
-bool all_guards_are_up(const Section& section) {
-    return std::all_of(section.commands.begin(), section.commands.end(),
-                       [](const Command& each) { return !each.guard || *each.guard; });
 }
 
 std::function<bool()> has_no_rows(const Section& section) {
@@ -76,6 +72,7 @@ void Tour::plan_section(int id, const char* button) {
                           }});
     if (id == DEFINE_VIEW_Contacts) plan_contacts(*section);
     if (id == DEFINE_VIEW_SMS) plan_messages(*section);
+    if (section->pictures.path_column) plan_pictures(name, *section);
 }
 
 void Tour::plan_contacts(const Section& section) {
@@ -96,6 +93,17 @@ void Tour::plan_messages(const Section& section) {
     plan_end_of_dialog("SMS_Contacts");
     plan_end_of_dialog("SMS_Send");
     plan_export("messages", "OnBT_Export_SMS", section);
+}
+
+void Tour::plan_pictures(const std::string& name, const Section& section) {
+    stops_.push_back({.name = name + "-pictures",
+                      .start = [this] { click("view_pictures"); },
+                      .reached =
+                          [this] {
+                              const auto* const list = window_.findChild<Picture_List*>();
+                              return list && list->isVisible() && list->complete();
+                          },
+                      .left_out = has_no_rows(section)});
 }
 
 void Tour::plan_first_row(const std::string& name, const Section& section) {

@@ -2,6 +2,7 @@
 // under it, and the buttons of its commands. The window draws them all from this description.
 #pragma once
 
+#include <algorithm>
 #include <functional>
 #include <string>
 #include <vector>
@@ -28,6 +29,12 @@ struct Dropped_Files {
     const Flag* guard = nullptr;             // nothing is taken while this is 0
 };
 
+/// Columns by which the rows are found to be pictures of the phone's, which can be looked at.
+struct Picture_Columns {
+    const char* path_column = nullptr;  // none: there is nothing to look at
+    const char* size_column = nullptr;
+};
+
 struct Section {
     std::string title;        // the table's accessible name: "Contacts"
     std::string empty_text;   // what an empty table says it would show
@@ -39,6 +46,13 @@ struct Section {
     Detail detail = {};              // without a text there is no pane
     std::vector<Command> commands;   // left to right
     Dropped_Files drop = {};
+    Picture_Columns pictures = {};  // the rows can also be shown as pictures
 };
+
+/// No command of the section is under way.
+inline bool all_guards_are_up(const Section& section) {
+    return std::all_of(section.commands.begin(), section.commands.end(),
+                       [](const Command& each) { return !each.guard || *each.guard; });
+}
 
 }  // namespace velk

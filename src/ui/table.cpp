@@ -69,6 +69,13 @@ std::vector<int> order_of_numbers(const std::vector<std::string>& cells,
 
 }  // namespace
 
+int column_named(const Table_Rows& rows, std::string_view identifier) {
+    const auto column =
+        std::find_if(rows.columns().begin(), rows.columns().end(),
+                     [&](const Column& each) { return each.identifier == identifier; });
+    return static_cast<int>(column - rows.columns().begin());
+}
+
 std::vector<int> sorted_order(const std::vector<std::string>& cells, Comparison comparison,
                               bool ascending) {
     switch (comparison) {

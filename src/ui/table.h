@@ -4,6 +4,7 @@
 #include <deque>
 #include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "ui/outlets.h"
@@ -41,6 +42,9 @@ class Table_Rows {
     /// Puts the rows themselves in order; rows that compare equal keep theirs.
     virtual void sort(int column, bool ascending) = 0;
 };
+
+/// The column with this identifier, which must be there.
+int column_named(const Table_Rows& rows, std::string_view identifier);
 
 /// The order that sorts these cells: element i is the old place of the row that comes i-th.
 std::vector<int> sorted_order(const std::vector<std::string>& cells, Comparison comparison,

@@ -6,7 +6,8 @@
 set -euo pipefail
 folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT
-printed=$(QT_QPA_PLATFORM=offscreen VELK_BIN=$(dirname "$2") "$1" "$2" --tour "$folder")
+export QT_QPA_PLATFORM=offscreen XDG_CACHE_HOME=$folder/cache
+printed=$(VELK_BIN=$(dirname "$2") "$1" "$2" --tour "$folder")
 grep -q '^Contacts: 240 rows$' <<<"$printed"
 grep -q '^Photos: 40 rows$' <<<"$printed"
 grep -q '^Toolbar: SMS(1500)$' <<<"$printed"
