@@ -91,7 +91,7 @@ class Table_Source {
     /// Puts the reason of a failed export into the quiet line; false when there is one. Without a
     /// path nothing was asked for, so there is nothing to explain.
     bool tell_saved(const std::string& path, const std::string& reason);
-    /// The same question; true for "Yes".
+    /// Asks with "Yes" and "No"; true for "Yes".
     bool person_agrees(const std::string& question);
     /// Says what is waited for, until it goes.
     Busy_Note busy(std::string text) { return {desktop(), window_.busy_line(), std::move(text)}; }
