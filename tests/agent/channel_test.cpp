@@ -47,8 +47,8 @@ TEST(Channel, ShortValuesAndTheBatteryAreReadByTheirSignedByte) {
         {"any\x55", "85"}, {"\xC8", "-56"}, {"", ""}};
     for (const auto& [reply, level] : levels) {
         agent.reply_to(38, reply);
-        const std::string output =
-            output_of([&] { EXPECT_EQ(sock_apk().get_battery_from_apk("38"), level); });
+        const std::string output = output_of(
+            [&, expected = level] { EXPECT_EQ(sock_apk().get_battery_from_apk("38"), expected); });
         EXPECT_EQ(output, format("\n\nsend:'&',[ASCII Value='38']\nReceive data length '%zu' :\n"
                                  "\nrs string length =%zu, str is [%s]\n",
                                  std::strlen(reply), std::strlen(level), level));

@@ -31,7 +31,7 @@ TEST(ContactsExchange, AllContactsArriveInTheAgentsOrderHoweverTheReplyIsCut) {
     Agent_Double agent;
     // Two rounds: a sender that the system keeps waiting too long would look like the end. Cuts
     // without a clock are tried where the chunks are chosen.
-    for (const std::size_t piece : {7777, 250}) {
+    for (const std::size_t piece : {7777U, 250U}) {
         agent.reply_to(14, Agent_Double::in_pieces(bytes_of(many_contacts(1000)), piece));
         const std::vector<CONTACT> contacts = ask_for_contacts();
         ASSERT_EQ(contacts.size(), 1000U) << piece;

@@ -100,7 +100,7 @@ TEST(SmsExchange, TheListEndsAtABareHeaderAndEveryChunkIsTraced) {
 
 TEST(SmsExchange, EveryMessageArrivesHoweverTheReplyIsCut) {
     Agent_Double agent;
-    for (const std::size_t per_packet : {1, 20}) {
+    for (const std::size_t per_packet : {1U, 20U}) {
         std::string reply, records;
         for (std::size_t i = 1; i <= 2000; ++i) {
             // Some are longer than a chunk.
