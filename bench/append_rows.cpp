@@ -30,6 +30,7 @@ void append(velk::Contacts_TableSource& contacts, int number) {
 }  // namespace
 
 int main(int argument_count, char** arguments) {
+    velk::figures();
     const int rows = argument_count > 1 ? std::atoi(arguments[1]) : 20000;
     QApplication application(argument_count, arguments);
     QApplication::setQuitOnLastWindowClosed(false);
@@ -60,7 +61,7 @@ int main(int argument_count, char** arguments) {
         });
     });
     QApplication::exec();
-    std::printf("%d rows: %.0f ms in all\n", rows, total);
+    std::fprintf(velk::figures(), "%d rows: %.0f ms in all\n", rows, total);
     pulse.print();
     velk::Worker::stop_all(std::chrono::seconds(1));
     return EXIT_SUCCESS;

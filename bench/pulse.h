@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "base/interruptor.h"
+#include "figures.h"
 
 namespace velk {
 
@@ -37,7 +38,8 @@ class Pulse : public QObject {
         const std::size_t count = waits.size();
         const auto slow =
             std::count_if(waits.begin(), waits.end(), [](double t) { return t > 50; });
-        std::printf(
+        std::fprintf(
+            figures(),
             "  waits of %zu events: median %.2f ms, 99%% %.2f ms, longest %.2f ms, %ld over 50 "
             "ms\n",
             count, waits[count / 2], waits[count * 99 / 100], waits.back(), slow);

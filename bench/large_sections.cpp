@@ -1,25 +1,31 @@
-// A large archive of messages in the window: how long the load takes, how long the window keeps a
-// person waiting meanwhile, and the time and memory that the export takes. The phone is a thread
-// of this program that answers on the agent's port.
+// A large archive of messages and one of photos in the window: how long the loads take, how long
+// the window keeps a person waiting meanwhile, the time that the export takes, and the memory of
+// it all. The phone is a thread of this program that answers on the agent's port.
 //
-//   QT_QPA_PLATFORM=offscreen build/release/bench/message_section [MESSAGES] 2>/dev/null
+//   QT_QPA_PLATFORM=offscreen build/release/bench/large_sections [MESSAGES [PHOTOS]]
 #include <netinet/in.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
+#include <QAbstractButton>
 #include <QApplication>
+#include <QListView>
 #include <QTimer>
 #include <cstdlib>
 #include <fstream>
 #include <functional>
+#include <map>
 #include <string>
 #include <thread>
 
 #include "agent/channel.h"
 #include "base/trace.h"
+#include "figures.h"
+#include "managers/file_panes.h"
 #include "managers/sms_tablesource.h"
 #include "pulse.h"
 #include "session/main_document.h"
+#include "session/section_views.h"
 #include "shell/look.h"
 #include "shell/qt_desktop.h"
 #include "shell/velk_window.h"
@@ -53,8 +59,20 @@ std::string message_list(int messages) {
     return list + header;
 }
 
-/// Answers every connection with the list; ends with the process.
-void serve(const std::string& list) {
+std::string photo_list(int photos) {
+    std::string list(7, '\0');
+    for (int i = 0; i < photos; ++i)
+        list += number(static_cast<std::size_t>(i), 4) +
+                field("/storage/emulated/0/DCIM/Camera/IMG_20260309_" + std::to_string(100000 + i) +
+                      ".jpg") +
+                field(std::to_string(2000000 + i));
+    return list;
+}
+
+using Lists = std::map<char, std::string>;  // by the code of their request
+
+/// Answers every request with its list; ends with the process.
+void serve(const Lists& lists) {
     const int listener = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
     const int on = 1;
     ::setsockopt(listener, SOL_SOCKET, SO_REUSEADDR, &on, sizeof on);
@@ -67,23 +85,28 @@ void serve(const std::string& list) {
         std::perror("the agent's port");
         std::exit(EXIT_FAILURE);
     }
-    std::thread([listener, list] {
+    std::thread([listener, lists] {
         for (;;) {
             const int client = ::accept(listener, nullptr, nullptr);
             char code = 0;
-            if (::recv(client, &code, 1, 0) == 1 && code == 47)
-                ::send(client, list.data(), list.size(), MSG_NOSIGNAL);
+            if (::recv(client, &code, 1, 0) == 1 && lists.contains(code))
+                ::send(client, lists.at(code).data(), lists.at(code).size(), MSG_NOSIGNAL);
             ::close(client);
         }
     }).detach();
 }
 
-/// The most memory the process has held so far, in MB.
-long peak_megabytes() {
+/// A figure of the process's memory, in MB.
+long megabytes(const std::string& figure) {
     std::ifstream status("/proc/self/status");
     for (std::string line; std::getline(status, line);)
-        if (line.starts_with("VmHWM:")) return std::atol(line.c_str() + 6) / 1024;
+        if (line.starts_with(figure)) return std::atol(line.c_str() + figure.size()) / 1024;
     return 0;
+}
+
+void print_memory(const char* when) {
+    std::fprintf(velk::figures(), "%s: %ld MB resident, at most %ld MB\n", when,
+                 megabytes("VmRSS:"), megabytes("VmHWM:"));
 }
 
 /// Runs one command of the window to its end and prints how it felt.
@@ -98,15 +121,54 @@ void measure(const char* what, const std::function<void()>& start,
     const double took = velk::milliseconds_since(begun);
     ended = true;
     velk::Worker::stop_all(std::chrono::seconds(5));
-    std::printf("%s: %.0f ms, at most %ld MB\n", what, took, peak_megabytes());
+    std::fprintf(velk::figures(), "%s: %.0f ms\n", what, took);
     pulse.print();
+}
+
+/// The same for a load, with the moment of the first row.
+template <class Section>
+void measure_load(const char* what, Section& section, const velk::Flag& may_load) {
+    const auto begun = velk::Clock::now();
+    double first_row = 0;
+    measure(
+        what, [&] { section.OnBT_Refresh(); },
+        [&] {
+            if (first_row == 0 && section.table_rows.count() > 0)
+                first_row = velk::milliseconds_since(begun);
+            return may_load == 1;
+        });
+    std::fprintf(velk::figures(), "  %d rows, the first one after %.0f ms\n",
+                 section.table_rows.count(), first_row);
+    print_memory("  then");
+}
+
+template <class View>
+auto& source_of(velk::MainDocument& document, int id) {
+    return dynamic_cast<View&>(*document.m_views[static_cast<std::size_t>(id)]).source;
+}
+
+void press(QWidget& window, const char* name) {
+    window.findChild<QAbstractButton*>(name)->click();
+}
+
+/// Looks at all photos as pictures, a page at a time. There is no tool, so none is fetched.
+void page_through_pictures(velk::Velk_Window& window, int photos) {
+    auto* const list = window.findChild<QListView*>("m_table_Photo_pictures");
+    int row = 0;
+    measure(
+        "pictures", [&] { press(window, "view_pictures"); },
+        [&] {
+            list->scrollTo(list->model()->index(row, 0));
+            return (row += 20) >= photos;
+        });
 }
 
 }  // namespace
 
 int main(int argument_count, char** arguments) {
     const int messages = argument_count > 1 ? std::atoi(arguments[1]) : 100000;
-    serve(message_list(messages));
+    const int photos = argument_count > 2 ? std::atoi(arguments[2]) : 20000;
+    velk::figures();
     QApplication application(argument_count, arguments);
     const velk::Look_Keeper look;
     velk::Qt_Desktop desktop;
@@ -114,21 +176,26 @@ int main(int argument_count, char** arguments) {
     velk::Velk_Window window(document, desktop);
     window.resize(1280, 800);
     window.show();
+    auto& photo_section = source_of<velk::View_Photo>(document, velk::DEFINE_VIEW_Photo);
+    while (photo_section.is_loading()) QCoreApplication::processEvents();  // finds no phone yet
+    print_memory("before");
+    serve({{47, message_list(messages)}, {118, photo_list(photos)}});
     document.hidden_some(true);
+
+    document.displayViewController(velk::DEFINE_VIEW_Photo);
+    QCoreApplication::processEvents();
+    measure_load("photos", photo_section, velk::Photo_TableSource::g_can_click_sms_load);
+    page_through_pictures(window, photos);
+
     document.displayViewController(velk::DEFINE_VIEW_SMS);
     QCoreApplication::processEvents();
     velk::SMS_TableSource& section = *velk::g_sms_tablesource;
-
-    std::printf("%d messages\n", messages);
-    std::printf("before: at most %ld MB\n", peak_megabytes());
-    measure(
-        "load", [&] { section.OnBT_Refresh(); }, [&] { return velk::g_can_click_sms_load == 1; });
-    std::printf("  rows: %d\n", section.table_rows.count());
+    measure_load("messages", section, velk::g_can_click_sms_load);
     bool saved = false;
     std::atomic<bool> over = false;
-    const std::string file = "/tmp/velk_message_section." + std::to_string(getpid());
+    const std::string file = "/tmp/velk_large_sections." + std::to_string(getpid());
     measure(
-        "export",
+        "export of the messages",
         [&] {
             velk::Worker::start("export", [&] {
                 saved = section.save_to_html(file);
@@ -137,6 +204,7 @@ int main(int argument_count, char** arguments) {
         },
         [&] { return over.load(); });
     ::unlink(file.c_str());
+    print_memory("  then");
     velk::flush_trace();
     return saved ? EXIT_SUCCESS : EXIT_FAILURE;
 }
