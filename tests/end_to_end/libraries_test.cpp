@@ -1,4 +1,5 @@
 #include <fstream>
+#include <set>
 
 #include "base/file.h"
 #include "end_to_end/demo_session.h"
@@ -15,34 +16,48 @@ TEST_F(Libraries, are_there_after_a_connection_and_change_as_the_person_says) {
         EXPECT_GT(document.m_views[static_cast<std::size_t>(id)]->section()->table->rows().count(),
                   0);
     auto& photos = dynamic_cast<View_Photo&>(*document.m_views[DEFINE_VIEW_Photo]).source;
-    const std::size_t count = photos.table_rows.size();
     EXPECT_EQ(photos.quiet.m_LB_Quiet.text(), "");
-    const std::string first = photos.table_rows[0].photo_file_path;
+    std::set<std::string> before;
+    for (const auto& row : photos.table_rows) before.insert(row.photo_file_path);
 
-    const std::string name = "it's \xE2\x98\xBA & [1]=\xFF";
-    std::ofstream(file(name + ".jpg")) << "picture";
-    desktop.choose_file(file(name + ".jpg"));
+    const std::string names[] = {"it's \xE2\x98\xBA & [1]=\xFF.jpg", "-d.jpg",
+                                 ".hidden \"one\".jpg", std::string(251, 'n') + ".jpg"};
+    std::filesystem::create_directories(file("a folder;*/deeper"));
+    std::ofstream(file("a folder;*/deeper/in it.jpg")) << "deep";
+    std::vector<std::string> added = {file("a folder;*")};
+    for (const std::string& name : names) {
+        std::ofstream(file(name)) << "picture " << name;
+        added.push_back(file(name));
+    }
     desktop.answer_alert(0);
-    photos.OnBT_Add();
+    photos.Add_Files(added);
     desktop.finish_work();
-    ASSERT_EQ(photos.table_rows.size(), count + 1);
-    EXPECT_EQ(photos.table_rows[count].photo_file_path, "/sdcard/photo/" + name + ".jpg");
+    std::vector<int> selected;
+    for (int row = 0; row < photos.table_rows.count(); ++row)
+        if (!before.contains(photos.table_rows[static_cast<std::size_t>(row)].photo_file_path))
+            selected.push_back(row);
+    ASSERT_EQ(selected.size(), added.size());
 
     std::filesystem::create_directory(file("out"));
-    std::ofstream(file("out/" + name + ".jpg")) << "before";
-    photos.m_table.select({0, static_cast<int>(count)}, 0);
+    for (const std::string& name : names) std::ofstream(file("out/" + name)) << "before";
+    photos.m_table.select(selected, selected.front());
     desktop.choose_file(file("out"));
     desktop.answer_alert(0);
     photos.OnBT_Export_Photo();
     desktop.finish_work();
-    EXPECT_EQ(read_whole_file(file("out/" + name + ".jpg")), "before");
-    EXPECT_EQ(read_whole_file(file("out/" + name + " (2).jpg")), "picture");
-    EXPECT_TRUE(std::filesystem::exists(file("out/" + first.substr(first.rfind('/') + 1))));
+    std::multiset<std::optional<std::string>> copied, expected = {"deep"};
+    for (const auto& entry : std::filesystem::directory_iterator(file("out")))
+        copied.insert(read_whole_file(entry.path()));
+    for (const std::string& name : names) {
+        EXPECT_EQ(read_whole_file(file("out/" + name)), "before");
+        expected.insert({"before", "picture " + name});
+    }
+    EXPECT_EQ(copied, expected);
 
     desktop.answer_alert(yes);
     photos.OnBT_Delete();
     desktop.finish_work();
-    EXPECT_EQ(photos.table_rows.size(), count - 1);
+    EXPECT_EQ(photos.table_rows.size(), before.size());
 }
 
 TEST_F(Libraries, of_applications_grow_and_shrink) {
