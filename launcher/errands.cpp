@@ -32,23 +32,28 @@ int ask_tool(const std::string& tool, const Words& words, std::string& said) {
                      [&](std::string_view piece) { said += piece; });
 }
 
-/// What is captured goes to standard error as it comes, and when the tool fails to standard output
-/// too: the program reads nothing else. It reads only UTF-8, and a message names files.
-int run_and_repeat_a_failure(Child_Command command) {
+/// What is captured goes to standard error as it comes; `said` gets it, too.
+int run_and_listen(Child_Command command, std::string& said) {
     command.shares_input = true;
     command.captures_errors = true;
-    std::string said;
-    const int status = run_child(command, [&](std::string_view piece) {
+    return run_child(command, [&](std::string_view piece) {
         print(stderr, piece);
         said += piece;
     });
+}
+
+/// When the tool fails, what it said goes to standard output too: the program reads nothing else.
+/// It reads only UTF-8, and a message names files.
+int repeat_a_failure(int status, const std::string& said) {
     if (status != 0) print(stdout, as_utf8(said));
     return status;
 }
 
 int run_plainly(const std::string& tool, const Command_Line& call) {
-    return run_and_repeat_a_failure(
-        {.words = with_tool(tool, call.words()), .captures_output = false});
+    std::string said;
+    const int status =
+        run_and_listen({.words = with_tool(tool, call.words()), .captures_output = false}, said);
+    return repeat_a_failure(status, said);
 }
 
 int run_devices(const std::string& tool, const Command_Line& call) {
@@ -59,11 +64,24 @@ int run_devices(const std::string& tool, const Command_Line& call) {
     return status;
 }
 
-int run_pull(const std::string& tool, const Command_Line& call) {
-    Words words{"pull", "-a"};  // the file keeps its date
+/// A pull, of which all output is kept: only a failure may be heard on standard output.
+int pull(const std::string& tool, const Command_Line& call, Words words, std::string& said) {
     words.insert(words.end(), call.arguments.begin(), call.arguments.end());
-    // The output is captured too: only a failure may be heard there.
-    return run_and_repeat_a_failure({.words = with_tool(tool, call.with(words))});
+    return run_and_listen({.words = with_tool(tool, call.with(words))}, said);
+}
+
+int run_pull(const std::string& tool, const Command_Line& call) {
+    std::string said;
+    int status = pull(tool, call, {"pull", "-a"}, said);  // the file keeps its date
+    // On a disk that keeps no dates the tool fails behind a whole copy, and does not say why.
+    const bool is_whole = said.find("[100%]") != std::string::npos;
+    if (status != 0 && is_whole && said.find("error") == std::string::npos) {
+        said.clear();
+        status = pull(tool, call, {"pull"}, said);
+    }
+    // A tool that was killed has left half a copy, which would count as done.
+    if (said.empty()) said = format("adb: pull ended with status %d\n", status);
+    return repeat_a_failure(status, said);
 }
 
 int run_push(const std::string& tool, const Command_Line& call) {
@@ -120,8 +138,9 @@ int run_errand(const std::string& tool, const Command_Line& call) {
 
 int run_without_a_tool(const Command_Line& call, const std::string& advice) {
     print(stderr, advice);
-    // A copy counts as done when nothing is printed.
-    if (call.command == "pull") print(stdout, advice);
+    // The program reads nothing else; a copy would even count as done when nothing is printed.
+    for (const std::string_view command : {"pull", "push", "install", "uninstall"})
+        if (call.command == command) print(stdout, advice);
     return status_of_a_missing_program;
 }
 

@@ -28,21 +28,18 @@ App_TableSource::App_TableSource(Main_Window& window)
                             .status = m_LB_message,
                             .may_load = g_can_click_load,
                             .button = Toolbar_Section::apps,
-                            .button_title = "Apps"}) {
+                            .button_title = "Apps",
+                            .needs_refresh = &g_table_app_need_refresh}) {
     g_app_tablesource = this;
     m_table.on_selection([this] { OnTable_Selected(); });
     section.title = "Applications";
     section.empty_text = "The applications on your phone are listed here.";
     section.search_text = "Search names and packages";
     section.table = &m_table;
-    section.drop = {.take =
-                        [this](std::vector<std::string> paths) {
-                            quiet.tell_reason("");
-                            Install_Files(std::move(paths));
-                        },
-                    .hint = "Drop applications (*.apk) here to install them on your phone.",
-                    .patterns = {package_names},
-                    .guard = &g_can_click_app_install};
+    take_drops({.take = [this](std::vector<std::string> paths) { Install_Files(std::move(paths)); },
+                .hint = "Drop applications (*.apk) here to install them on your phone.",
+                .patterns = {package_names},
+                .guard = &g_can_click_app_install});
     set_commands({
         {.name = "OnBT_App_Install",
          .caption = "Install",
@@ -173,15 +170,17 @@ void App_TableSource::adb_uninstall_apk(const std::string& package) {
 // --- both -------------------------------------------------------------------------------------
 
 void App_TableSource::tell_failure(const std::string& printed) {
-    const std::string failure = failure_in(printed);
-    if (!failure.empty()) post([this, failure] { quiet.tell_reason(failure); });
+    // The phone's own words differ from one to the next, save when all went well.
+    const std::string failure = last_line(printed);
+    if (!failure.empty() && failure != "Success")
+        post([this, failure] { quiet.tell_reason(failure); });
 }
 
 void App_TableSource::show_change(Held_Flag& running) {
     post([this] { refresh_button_app_title(); });
     running.give_back();
     post([this] {
-        list_may_be_old(g_table_app_need_refresh);
+        list_may_be_old();
         Load();
     });
 }

@@ -103,7 +103,7 @@ void Contacts_TableSource::modify_as_typed(const std::string& id) {
     const bool accepted = run_command(desktop(), "modify contact", [this, name, number, id] {
         const Busy_Note note = busy("Modifying a contact");
         Contacts_Modify_To_APK(name, number, id);
-        post([this] { list_may_be_old(g_table_contacts_need_refresh); });
+        post([this] { list_may_be_old(); });
     });
     if (accepted) Contacts_Modify(name, number);  // before anything that the worker posts
 }

@@ -2,6 +2,7 @@
 
 #include "agent/sock_apk.h"
 #include "base/text.h"
+#include "managers/common_columns.h"
 
 namespace velk {
 
@@ -25,8 +26,7 @@ const std::array<Row_Column<Contacts_TableSource_Column>, 4>&
 Contacts_TableSource_Column::row_columns() {
     using Row = Contacts_TableSource_Column;
     static const std::array<Row_Column<Row>, 4> columns = {{
-        {{.identifier = "col_no", .title = "No.", .comparison = Comparison::number, .width = 6},
-         &Row::col_no},
+        {no_column, &Row::col_no},
         {{.identifier = "col_id", .title = "ID", .comparison = Comparison::number, .width = 8},
          &Row::col_id},
         {{.identifier = "col_name", .title = "Name", .width = 30, .wide = true}, &Row::col_name},

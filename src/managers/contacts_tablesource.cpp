@@ -12,7 +12,8 @@ Contacts_TableSource::Contacts_TableSource(Main_Window& window)
                             .status = m_LB_Tips_Contacts,
                             .may_load = g_can_click_contacts_load,
                             .button = Toolbar_Section::contacts,
-                            .button_title = "Contacts"}) {
+                            .button_title = "Contacts",
+                            .needs_refresh = &g_table_contacts_need_refresh}) {
     g_contacts_tablesource = this;
     m_table.on_selection([this] { OnTableView_SelectedRow(); });
     section.title = "Contacts";
@@ -75,7 +76,7 @@ void Contacts_TableSource::ContactsLoad() {
 }
 
 void Contacts_TableSource::reload_after_a_change() {
-    list_may_be_old(g_table_contacts_need_refresh);
+    list_may_be_old();
     OnBT_Contacts_Refresh();
 }
 

@@ -1,15 +1,13 @@
 #include "managers/file_rows.h"
 
 #include "base/text.h"
+#include "managers/common_columns.h"
 
 namespace velk {
 
 namespace {
 
-// The columns that several tables have, each with its own name for the field.
-
-constexpr Column no_column{
-    .identifier = "col_no", .title = "No.", .comparison = Comparison::number, .width = 6};
+// The columns that several of these tables have, each with its own name for the field.
 
 constexpr Column id_column(const char* identifier) {
     return {
@@ -23,14 +21,6 @@ constexpr Column path_column(const char* identifier) {
 /// "01:02:05": in the order of the texts.
 constexpr Column duration_column(const char* identifier) {
     return {.identifier = identifier, .title = "Duration", .width = 10, .searched = false};
-}
-
-constexpr Column size_column(const char* identifier) {
-    return {.identifier = identifier,
-            .title = "Size",
-            .comparison = Comparison::size,
-            .width = 10,
-            .searched = false};
 }
 
 }  // namespace

@@ -30,14 +30,9 @@ File_TableSource::File_TableSource(Main_Window& window, const File_Pane& pane, T
     section.search_text = format("Search %s", pane.files);
     section.table = &m_table;
     section.pictures = pane.pictures;
-    section.drop = {
-        .take =
-            [this](std::vector<std::string> paths) {
-                quiet.tell_reason("");
-                Add_Files(std::move(paths));
-            },
-        .hint = format("Drop files here to add them to the %s on your phone.", pane.files),
-        .guard = &pane.may_add};
+    take_drops({.take = [this](std::vector<std::string> paths) { Add_Files(std::move(paths)); },
+                .hint = format("Drop files here to add them to the %s on your phone.", pane.files),
+                .guard = &pane.may_add});
     set_commands({
         {.name = "OnBT_Add",
          .caption = "Add",
@@ -68,7 +63,7 @@ void File_TableSource::OnTable_Selected() {
 }
 
 void File_TableSource::start_loading() {
-    start_load([this] { fill_table(); });
+    start_load([this] { TableView_FullData(); });
 }
 
 void File_TableSource::reload_after_a_change() {
@@ -187,7 +182,7 @@ void File_TableSource::export_files(const std::string& folder) {
                                         file.number.c_str(), file.path.c_str(), folder.c_str());
         post_status(line);
         log_line("%s", line.c_str());
-        if (!pulled.done) post([this, pulled] { quiet.tell_reason(pulled.reason); });
+        if (!pulled.reason.empty()) post([this, pulled] { quiet.tell_reason(pulled.reason); });
         ++processed;
     });
     if (processed > 0)

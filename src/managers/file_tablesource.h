@@ -61,6 +61,9 @@ class File_TableSource : public Table_Source {
     /// The table's selection changed.
     void OnTable_Selected();
     bool is_loading() const { return !pane_.may_load; }
+    /// Empties the table: what it lists may be another phone's. What a load still brings is
+    /// dropped.
+    virtual void forget_list() = 0;
 
   protected:
     /// `rows` are those of the table, and outlive this.
@@ -76,7 +79,7 @@ class File_TableSource : public Table_Source {
     using Delete_One = std::function<void(const Listed_File&)>;
 
     // What depends on the kind of rows. Workers.
-    virtual void fill_table() = 0;
+    virtual void TableView_FullData() = 0;
     /// The selected files, ascending. Beeps when there is none.
     virtual std::vector<Listed_File> chosen_files() = 0;
     /// See Table_Source::delete_selected.
@@ -112,8 +115,13 @@ class File_Table : public Rows_Of_Files<Row>, public File_TableSource {
         : File_TableSource(window, pane, table_rows) {}
     ~File_Table() = default;
 
+    void forget_list() override {
+        table_rows.clear();
+        m_table.reload();
+    }
+
   private:
-    void fill_table() override {
+    void TableView_FullData() override {
         const Phone_List<typename Row::Record> list = {pane().files, pane().list_code, Row::fetch,
                                                        pane().loaded, pane().counted};
         fill_from_phone(table_rows, m_table, list, [this](const Row& row) {

@@ -27,18 +27,18 @@ class Filling {
     template <class Told>
     void append(std::vector<Row> loaded, Told told) {
         for (Row& row : loaded)
-            post_while_mine([&rows = rows_, &table = table_, told, row = std::move(row)] {
-                rows.push_back(row);
+            post_while_mine([&rows = rows_, &table = table_, told, row = std::move(row)]() mutable {
+                rows.push_back(std::move(row));
                 table.reload_appended();
                 table.scroll_to_last();
-                told(row);
+                told(rows[rows.size() - 1]);
             });
     }
 
     /// Posts what belongs to this filling alone, and is dropped with it.
     template <class Change>
     void post_while_mine(Change change) {
-        desktop_.post([&rows = rows_, clears = clears_, change = std::move(change)] {
+        desktop_.post([&rows = rows_, clears = clears_, change = std::move(change)]() mutable {
             if (rows.clears() == clears) change();
         });
     }

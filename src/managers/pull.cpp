@@ -87,6 +87,13 @@ class Moved_Aside {
         // Should another program have taken the name meanwhile, the file must be seen all the same.
         if (moved() && !rename_to_free(aside_, file_)) rename_to_numbered(aside_, file_);
     }
+    /// Puts it in the place of what a pull has left, in one step: it must not stay hidden when the
+    /// program is ended meanwhile. False when that is a folder, or when nothing was moved.
+    bool replace_what_is_left() {
+        if (!moved() || ::rename(aside_.c_str(), file_.c_str()) != 0) return false;
+        aside_.clear();
+        return true;
+    }
     Moved_Aside(const Moved_Aside&) = delete;
     Moved_Aside& operator=(const Moved_Aside&) = delete;
 
@@ -112,15 +119,17 @@ Pulled pull_into_folder(Desktop& desktop, const Phone_Tool& tool, const std::str
     if (name.empty()) return {.reason = "The phone gives that file no name."};
     if (!fs::is_directory(folder, error)) return {.reason = "That folder is not there."};
     const fs::path file = fs::path(folder) / name;
-    const Moved_Aside old(file);
+    Moved_Aside old(file);
     if (old.stuck()) return {.reason = system_reason(errno)};
 
     const std::string printed =
         ADB_Command().Pull_File_To_Computer(tool.path, tool.serial, phone_path, folder);
     Pulled pulled{.done = printed.empty() && !desktop.closing(), .reason = last_line(printed)};
-    if (pulled.done && old.moved() && is_there(file) && !rename_to_numbered(file, file))
+    if (pulled.done && !is_there(file))
+        pulled.reason = "The file did not arrive.";
+    else if (pulled.done && old.moved() && !rename_to_numbered(file, file))
         pulled = {.reason = system_reason(errno)};
-    if (!pulled.done) fs::remove_all(file, error);
+    if (!pulled.done && !old.replace_what_is_left()) fs::remove_all(file, error);
     return pulled;
 }
 

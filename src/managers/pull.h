@@ -10,11 +10,12 @@ namespace velk {
 
 struct Pulled {
     bool done = false;
-    std::string reason = {};  // why it is not, in a line
+    std::string reason = {};  // why it is not, or not as it should be, in a line
 };
 
 /// Copies the file into the folder, under its own name. Worker; blocks until the tool has ended,
-/// which closing the window makes it do. The copy counts as done when the tool printed nothing.
+/// which closing the window makes it do. The copy counts as done when the tool printed nothing; a
+/// copy that is not there all the same has a reason.
 ///
 /// What bears that name in the folder already is moved aside meanwhile and has its name again
 /// afterwards; the new file becomes "name (2).jpg" then, with the first number that is free. What a

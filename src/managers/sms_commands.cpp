@@ -54,7 +54,7 @@ void SMS_TableSource::sms_delete_all() {
         m_table.reload();
         m_LB_sms_content.set_text("");
         // No load follows; one that is under way has lost its table.
-        list_may_be_old(g_table_sms_need_refresh);
+        list_may_be_old();
     });
 }
 

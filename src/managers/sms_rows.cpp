@@ -1,6 +1,7 @@
 #include "managers/sms_rows.h"
 
 #include "base/text.h"
+#include "managers/common_columns.h"
 
 namespace velk {
 
@@ -14,7 +15,7 @@ const std::array<Row_Column<SMS_TableSource_Column>, 9>& SMS_TableSource_Column:
     using Row = SMS_TableSource_Column;
     constexpr Comparison number = Comparison::number;
     static const std::array<Row_Column<Row>, 9> columns = {{
-        {{.identifier = "col_no", .title = "No.", .comparison = number, .width = 6}, &Row::col_no},
+        {no_column, &Row::col_no},
         {{.identifier = "col_sms_phone_number", .title = "Phone Number", .width = 18},
          &Row::col_sms_phone_number},
         {{.identifier = "col_sms_datetime", .title = "Date Time", .width = 18, .searched = false},

@@ -21,7 +21,8 @@ SMS_TableSource::SMS_TableSource(Main_Window& window)
                             .status = m_LB_TIPS,
                             .may_load = g_can_click_sms_load,
                             .button = Toolbar_Section::sms,
-                            .button_title = "SMS"}) {
+                            .button_title = "SMS",
+                            .needs_refresh = &g_table_sms_need_refresh}) {
     g_sms_tablesource = this;
     m_LB_Tel.set_text("");
     m_LB_SMS_DateTime.set_text("");
@@ -81,11 +82,11 @@ void SMS_TableSource::OnBT_Refresh() {
 }
 
 void SMS_TableSource::SMSLoad() {
-    start_load([this] { fill_table(); });
+    start_load([this] { TableView_FullData(); });
 }
 
 void SMS_TableSource::reload_after_a_change() {
-    list_may_be_old(g_table_sms_need_refresh);
+    list_may_be_old();
     OnBT_Refresh();
 }
 
@@ -93,7 +94,7 @@ void SMS_TableSource::refresh_button_sms_title() {
     show_count(table_rows.count());
 }
 
-void SMS_TableSource::fill_table() {
+void SMS_TableSource::TableView_FullData() {
     fill_from_phone(table_rows, m_table, phone_list, [this](const SMS_TableSource_Column& row) {
         say(format("Loading No.%s '%s'message......", row.col_no.c_str(),
                    row.col_sms_phone_number.c_str()));

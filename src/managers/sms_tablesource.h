@@ -63,7 +63,7 @@ class SMS_TableSource : public Table_Source {
 
   private:
     // Workers.
-    void fill_table();
+    void TableView_FullData();
     void delete_selected_messages();
     void sms_delete_all();
     /// Deletes the row's message on the phone and tells what became of it.

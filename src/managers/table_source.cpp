@@ -21,6 +21,15 @@ void Table_Source::set_commands(std::vector<Command> commands) {
     section.commands = std::move(commands);
 }
 
+void Table_Source::take_drops(Dropped_Files drops) {
+    section.drop = std::move(drops);
+    section.drop.take = [this,
+                         take = std::move(section.drop.take)](std::vector<std::string> paths) {
+        quiet.tell_reason("");
+        take(std::move(paths));
+    };
+}
+
 void Table_Source::ask_person(const Alert& question, std::function<void()> agreed) {
     desktop().open_alert(question, [agreed = std::move(agreed)](int button) {
         if (button == yes) agreed();
@@ -34,25 +43,27 @@ void Table_Source::show_count(int rows) {
 }
 
 void Table_Source::start_load(std::function<void()> load) {
-    if (identity_.may_load) list_is_old_ = false;
     start_guarded(desktop(), identity_.may_load, identity_.name,
                   [this, load = std::move(load)](Held_Flag& loading) {
                       load();
                       loading.give_back();
                       post([this] {
+                          // Who asked for a refresh meanwhile was refused.
+                          if (std::exchange(brings_an_old_list_, false)) table_is_stale();
                           if (load_ended) load_ended();
                       });
                   });
 }
 
-bool Table_Source::list_may_be_old() {
-    list_is_old_ = !identity_.may_load;
-    if (list_is_old_) quiet.tell_of_list(list_is_old);
-    return list_is_old_;
+void Table_Source::list_may_be_old() {
+    brings_an_old_list_ = !identity_.may_load;
+    if (!brings_an_old_list_) return;
+    quiet.tell_of_list(list_is_old);
+    table_is_stale();
 }
 
-void Table_Source::list_may_be_old(Flag& needs_refresh) {
-    if (list_may_be_old()) needs_refresh = 1;
+void Table_Source::table_is_stale() {
+    if (identity_.needs_refresh) *identity_.needs_refresh = 1;
 }
 
 void Table_Source::post_status(std::string text) {

@@ -53,13 +53,16 @@ class Table_Source {
         Label& status;     // the status line
         Flag& may_load;    // the can-click flag of its load
         Toolbar_Section button;
-        const char* button_title;  // of its button, without the number: "Contacts"
+        const char* button_title;       // of its button, without the number: "Contacts"
+        Flag* needs_refresh = nullptr;  // of its table, where there is such a flag
     };
     Table_Source(Main_Window& window, Identity identity);
     ~Table_Source() = default;
 
     /// The section's buttons. Each takes the last command's reason from the quiet line first.
     void set_commands(std::vector<Command> commands);
+    /// What becomes of dropped files; they take the last command's reason from the quiet line, too.
+    void take_drops(Dropped_Files drops);
 
     Desktop& desktop() { return window_.desktop(); }
 
@@ -73,13 +76,11 @@ class Table_Source {
     /// Starts `load` on a worker, unless one runs.
     void start_load(std::function<void()> load);
     /// Behind a change of the phone's list: a load under way may have missed it. Then what it
-    /// brings counts as old, and this gives true.
-    bool list_may_be_old();
-    /// The same; `needs_refresh` is set then.
-    void list_may_be_old(Flag& needs_refresh);
+    /// brings counts as old, and the table as stale.
+    void list_may_be_old();
     /// What the quiet line says of a list that has come; see remark_on_list().
     std::string remark_on(int counted, std::size_t came) const {
-        return remark_on_list(list_is_old_, counted, came);
+        return remark_on_list(brings_an_old_list_, counted, came);
     }
 
     // --- workers only ---
@@ -129,8 +130,10 @@ class Table_Source {
     Main_Window& window_;
 
   private:
+    void table_is_stale();
+
     Identity identity_;
-    bool list_is_old_ = false;  // the phone was changed while the load under way runs
+    bool brings_an_old_list_ = false;  // the phone was changed while the load under way runs
 };
 
 template <class Item, class Work>
@@ -148,13 +151,16 @@ void Table_Source::fill_from_phone(Row_List<Row>& rows, Table& table,
     const Busy_Note note = busy(std::string("Waiting for the phone: ") + list.name);
     Filling filling(desktop(), rows, table);
     post([this] { quiet.tell_of_list(""); });
-    std::vector<Record> records;
-    (sock_apk().*list.fetch)(list.code, records);
     std::vector<Row> loaded;
-    loaded.reserve(records.size());
-    for (const Record& record : records) loaded.push_back(row_of(record, loaded.size() + 1));
+    {
+        std::vector<Record> records;
+        (sock_apk().*list.fetch)(list.code, records);
+        loaded.reserve(records.size());
+        for (const Record& record : records) loaded.push_back(row_of(record, loaded.size() + 1));
+    }
+    const std::size_t came = loaded.size();
     filling.append(std::move(loaded), told);
-    filling.post_while_mine([this, list, &rows, came = records.size()] {
+    filling.post_while_mine([this, list, &rows, came] {
         say(format(list.loaded, came));
         quiet.tell_of_list(remark_on(list.counted, came));
         show_count(rows.count());

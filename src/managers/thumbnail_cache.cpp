@@ -1,8 +1,8 @@
 #include "managers/thumbnail_cache.h"
 
 #include <algorithm>
+#include <cinttypes>
 #include <filesystem>
-#include <functional>
 #include <string_view>
 #include <system_error>
 #include <utility>
@@ -23,6 +23,13 @@ struct Kept_File {
     std::uintmax_t bytes;
 };
 
+/// FNV-1a, which is the same for every build of the program.
+std::uint64_t fnv1a(std::string_view bytes) {
+    std::uint64_t hash = 0xcbf29ce484222325;
+    for (const char byte : bytes) hash = (hash ^ static_cast<unsigned char>(byte)) * 0x100000001b3;
+    return hash;
+}
+
 std::vector<Kept_File> files_in(const std::string& folder) {
     std::vector<Kept_File> files;
     std::error_code error;
@@ -40,8 +47,7 @@ std::vector<Kept_File> files_in(const std::string& folder) {
 std::string Thumbnail_Cache::key_of(const std::string& serial, const std::string& path,
                                     const std::string& size) {
     constexpr char between = '\0';  // is in none of them
-    const std::string whole = serial + between + path + between + size;
-    return format("%016zx", std::hash<std::string_view>()(whole));
+    return format("%016" PRIx64, fnv1a(serial + between + path + between + size));
 }
 
 std::optional<std::string> Thumbnail_Cache::find(const std::string& key) {
@@ -60,14 +66,26 @@ void Thumbnail_Cache::keep(const std::string& key, const std::string& content) {
 }
 
 std::string Thumbnail_Cache::place_for_a_while() {
-    return has_folder() ? (fs::path(folder_) / hidden_name()).string() : std::string();
+    if (!has_folder()) return {};
+    std::string path = (fs::path(folder_) / hidden_name()).string();
+    return write_whole_file(path, "").empty() ? path : std::string();
 }
 
 bool Thumbnail_Cache::has_folder() {
     std::error_code error;
     if (fs::create_directories(folder_, error))
         fs::permissions(folder_, fs::perms::owner_all, error);
-    return fs::is_directory(folder_, error);
+    if (!fs::is_directory(folder_, error)) return false;
+    if (!std::exchange(tidied_, true)) remove_what_was_left();
+    return true;
+}
+
+// Whole photos, of a program that was ended while it fetched them.
+void Thumbnail_Cache::remove_what_was_left() {
+    for (const Kept_File& file : files_in(folder_)) {
+        std::error_code error;
+        if (file.path.filename().string().starts_with('.')) fs::remove(file.path, error);
+    }
 }
 
 // Some more goes than must, so that not every picture has the folder counted again.

@@ -17,7 +17,8 @@ class Thumbnail_Cache {
     explicit Thumbnail_Cache(std::string folder, std::uintmax_t limit = most_bytes)
         : folder_(std::move(folder)), limit_(limit) {}
 
-    /// What the picture of a file is kept under: another one when the file has changed in size.
+    /// What the picture of a file is kept under: another one when the file's size, as it is shown,
+    /// has changed.
     static std::string key_of(const std::string& serial, const std::string& path,
                               const std::string& size);
 
@@ -25,17 +26,19 @@ class Thumbnail_Cache {
     std::optional<std::string> find(const std::string& key);
     /// Keeps the content; what was not used for longest goes when the folder holds too much.
     void keep(const std::string& key, const std::string& content);
-    /// A place in the folder for a file that is wanted for a while; empty when there is no folder.
+    /// An empty file in the folder, for what is wanted for a while; no path when there is none.
     std::string place_for_a_while();
 
   private:
     bool has_folder();
+    void remove_what_was_left();
     void count_and_shrink();
 
     std::string folder_;
     std::uintmax_t limit_;
     std::uintmax_t bytes_ = 0;
     bool counted_ = false;
+    bool tidied_ = false;
 };
 
 }  // namespace velk

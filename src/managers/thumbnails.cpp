@@ -1,9 +1,11 @@
 #include "managers/thumbnails.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <system_error>
 #include <utility>
 
+#include "base/interruptor.h"
 #include "bridge/adb_command.h"
 #include "ui/program_wide.h"
 #include "ui/worker.h"
@@ -13,6 +15,8 @@ namespace velk {
 namespace {
 
 namespace fs = std::filesystem;
+
+constexpr const char* worker_name = "thumbnail";
 
 /// Is gone again when this goes, whatever it has become.
 class Passing_File {
@@ -31,34 +35,46 @@ class Passing_File {
 }  // namespace
 
 void Thumbnails::want(std::vector<Wish> wishes) {
-    wishes_.clear();
-    for (Wish& wish : wishes)
-        if (wish.key != fetching_ && !gave_up(wish.key)) wishes_.push_back(std::move(wish));
+    std::erase_if(wishes, [this](const Wish& wish) { return gave_up(wish.key); });
+    wishes_ = std::move(wishes);
+    const bool still_wanted = std::any_of(
+        wishes_.begin(), wishes_.end(), [this](const Wish& wish) { return wish.key == fetching_; });
+    if (!still_wanted) break_off();
     go_on();
 }
 
 // An attempt removes the agent and asks much of the tool; what a person does comes first.
-bool Thumbnails::may_start() const {
-    return fetching_.empty() && !wishes_.empty() && g_connected_adb && g_can_click_refresh &&
-           desktop_.takes_input() && !desktop_.closing() && outside_.may_fetch();
+bool Thumbnails::may_fetch() const {
+    return g_connected_adb && g_can_click_refresh && desktop_.takes_input() &&
+           !desktop_.closing() && outside_.may_fetch();
+}
+
+void Thumbnails::break_off() {
+    if (!fetching_.empty()) Worker::interrupt(worker_name);
 }
 
 void Thumbnails::go_on() {
-    if (!may_start()) return;
-    const Wish wish = std::move(wishes_.front());
-    wishes_.pop_front();
+    if (!may_fetch()) return break_off();
+    if (!fetching_.empty() || wishes_.empty()) return;
+    const Wish wish = wishes_.front();
     fetching_ = wish.key;
-    const bool started = Worker::start("thumbnail", [this, wish, tool = phone_tool(desktop_)] {
+    const bool started = Worker::start(worker_name, [this, wish, tool = phone_tool(desktop_)] {
         const std::optional<std::string> content = content_of(wish, tool);
         if (content) outside_.deliver(wish.key, *content);
-        desktop_.post([this, wish, brought = content.has_value()] { has_ended(wish, brought); });
+        const End end = content                              ? End::brought
+                        : Interruptor::current().cancelled() ? End::broken_off
+                                                             : End::failed;
+        desktop_.post([this, key = wish.key, end] { has_ended(key, end); });
     });
     if (!started) fetching_.clear();
 }
 
-void Thumbnails::has_ended(const Wish& wish, bool brought) {
+// What was broken off is still wished for, unless it has gone out of sight.
+void Thumbnails::has_ended(const std::string& key, End end) {
     fetching_.clear();
-    if (!brought) failed_.insert(wish.key);
+    if (end == End::failed) failed_.insert(key);
+    if (end != End::broken_off)
+        std::erase_if(wishes_, [&](const Wish& wish) { return wish.key == key; });
     go_on();
 }
 
@@ -70,14 +86,15 @@ std::optional<std::string> Thumbnails::content_of(const Wish& wish, const Phone_
     return content;
 }
 
-// The tool would take another path than a whole one for an option, or for one of its own folder.
+// The tool would take another path than a whole one for an option, or for one of its own folder. A
+// folder of the phone's, whatever its name, does not come: there is a file in its place.
 std::optional<std::string> Thumbnails::fetched(const Wish& wish, const Phone_Tool& tool) {
     const Passing_File file(cache_.place_for_a_while());
     if (file.path.empty() || !wish.path.starts_with('/')) return std::nullopt;
     const std::string printed =
         ADB_Command().Pull_File_To_Computer(tool.path, tool.serial, wish.path, file.path);
     std::error_code error;
-    const bool came = printed.empty() && !desktop_.closing() &&
+    const bool came = printed.empty() && !Interruptor::current().cancelled() &&
                       fs::is_regular_file(fs::symlink_status(file.path, error));
     return came ? std::optional(outside_.shrink(file.path)) : std::nullopt;
 }

@@ -1,7 +1,6 @@
-// Fetching small pictures of the phone's files, a few at a time and behind everything else.
+// Fetching small pictures of the phone's files, one at a time and behind everything else.
 #pragma once
 
-#include <deque>
 #include <functional>
 #include <optional>
 #include <set>
@@ -23,7 +22,7 @@ class Thumbnails {
         std::string path;  // on the phone
     };
     struct Outside {
-        /// False while something else has the phone.
+        /// False while a person's command has the phone.
         std::function<bool()> may_fetch;
         /// Makes of a file of the phone's, now on the computer, what is kept of it; empty when it
         /// cannot be read. Worker.
@@ -36,14 +35,14 @@ class Thumbnails {
     Thumbnails(Desktop& desktop, std::string folder, Outside outside)
         : desktop_(desktop), cache_(std::move(folder)), outside_(std::move(outside)) {}
 
-    /// These and no others are wished for from now on; what is being fetched is brought all the
-    /// same.
+    /// These and no others are wished for from now on; another one's fetch is broken off.
     void want(std::vector<Wish> wishes);
-    /// Starts the next fetch, if one may start; to be called when that may have changed.
+    /// Starts the next fetch if one may start, and breaks one off that may not go on; to be called
+    /// when that may have changed.
     void go_on();
     /// That file could not be had, and is not tried again.
     bool gave_up(const std::string& key) const { return failed_.contains(key); }
-    /// The list has been read anew: it is.
+    /// The rows are others now, be it in their order only: it is.
     void try_all_again() { failed_.clear(); }
 
   private:
@@ -51,14 +50,17 @@ class Thumbnails {
     std::optional<std::string> content_of(const Wish& wish, const Phone_Tool& tool);
     std::optional<std::string> fetched(const Wish& wish, const Phone_Tool& tool);
 
-    void has_ended(const Wish& wish, bool brought);
-    bool may_start() const;
+    enum class End { brought, failed, broken_off };
+
+    void has_ended(const std::string& key, End end);
+    bool may_fetch() const;
+    void break_off();
 
     Desktop& desktop_;
     Thumbnail_Cache cache_;  // the worker's, while one runs
     Outside outside_;
-    std::deque<Wish> wishes_;
-    std::string fetching_;  // the key; empty while nothing is
+    std::vector<Wish> wishes_;  // that being fetched included
+    std::string fetching_;      // the key; empty while nothing is
     std::set<std::string> failed_;
 };
 

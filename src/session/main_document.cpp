@@ -1,5 +1,6 @@
 #include "session/main_document.h"
 
+#include <algorithm>
 #include <chrono>
 #include <future>
 
@@ -52,6 +53,13 @@ MainDocument::MainDocument(Desktop& desktop, const std::string& directory)
 
 MainDocument::~MainDocument() {
     g_window = nullptr;
+}
+
+bool MainDocument::is_at_work() const {
+    return std::any_of(m_views.begin(), m_views.end(), [](const auto& view) {
+        const Section* const section = view->section();
+        return section && !all_guards_are_up(*section);
+    });
 }
 
 void MainDocument::set_fixed_captions() {

@@ -94,6 +94,9 @@ class MainDocument : public Main_Window, public Window_Outlets, public Adb_Wrapp
     /// True while lists come by themselves after a connection.
     bool lists_are_coming() const { return !pane_loads_.all_ended(); }
 
+    /// A command or a load of some section is under way.
+    bool is_at_work() const;
+
     /// The content views; a view's id is its index.
     std::array<std::unique_ptr<MainViewController>, 11> m_views;
     Colour m_color_toolbar_button = white;

@@ -1,5 +1,6 @@
 #include "session/pane_loads.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "managers/file_tablesource.h"
@@ -14,27 +15,33 @@ void Pane_Loads::take(std::vector<File_TableSource*> panes) {
 }
 
 void Pane_Loads::start() {
-    wished_.assign(panes_.begin(), panes_.end());
-    first_has_started_ = false;
+    for (File_TableSource* const pane : panes_) pane->forget_list();
+    wished_ = panes_;
+    loading_ = nullptr;
     go_on();
 }
 
-void Pane_Loads::has_ended(const File_TableSource* pane) {
-    if (wished_.empty() || wished_.front() != pane) return;
-    if (std::exchange(first_has_started_, false)) wished_.pop_front();
+void Pane_Loads::has_ended(File_TableSource* pane) {
+    if (pane == loading_) {
+        std::erase(wished_, pane);
+        loading_ = nullptr;
+    }
     go_on();
 }
 
 void Pane_Loads::go_on() {
     // The next attempt must not be disturbed; when it ends well it wishes anew.
     if (!g_connected_adb) wished_.clear();
-    while (!wished_.empty()) {
-        File_TableSource* const pane = wished_.front();
-        if (pane->is_loading()) return;  // its end comes back here
+    while (!loading_) {
+        const auto next = std::find_if(wished_.begin(), wished_.end(),
+                                       [](const auto* pane) { return !pane->is_loading(); });
+        if (next == wished_.end()) return;  // those that load an earlier list come back at its end
+        File_TableSource* const pane = *next;
         pane->OnBT_Refresh();
-        first_has_started_ = pane->is_loading();
-        if (first_has_started_) return;
-        wished_.pop_front();  // the system has no thread to give
+        if (pane->is_loading())
+            loading_ = pane;
+        else
+            wished_.erase(next);  // the system has no thread to give
     }
 }
 

@@ -1,7 +1,6 @@
 // The loads that follow a connection by themselves.
 #pragma once
 
-#include <deque>
 #include <vector>
 
 namespace velk {
@@ -16,18 +15,19 @@ class Pane_Loads {
   public:
     /// The sections, in the order in which they load; they live as long as the window.
     void take(std::vector<File_TableSource*> panes);
-    /// Wishes one load of each; what is left of earlier wishes is dropped.
+    /// Empties the tables, whose files another phone may not have, and wishes one load of each;
+    /// what is left of earlier wishes is dropped.
     void start();
     /// The phone that was connected last has been asked for all these lists.
     bool all_ended() const { return wished_.empty(); }
 
   private:
-    void has_ended(const File_TableSource* pane);
+    void has_ended(File_TableSource* pane);
     void go_on();
 
     std::vector<File_TableSource*> panes_;
-    std::deque<File_TableSource*> wished_;  // the first is waited for, or being loaded
-    bool first_has_started_ = false;
+    std::vector<File_TableSource*> wished_;  // the one being loaded included
+    File_TableSource* loading_ = nullptr;
 };
 
 }  // namespace velk

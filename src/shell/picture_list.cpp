@@ -7,6 +7,7 @@
 #include <QStandardPaths>
 #include <QStyledItemDelegate>
 #include <algorithm>
+#include <utility>
 
 #include "shell/look.h"
 #include "shell/pictures.h"
@@ -107,7 +108,7 @@ class Picture_Delegate : public QStyledItemDelegate {
 }  // namespace
 
 Picture_List::Picture_List(const Section& section, Row_Table& table, Desktop& desktop,
-                           QWidget* parent)
+                           std::function<bool()> may_fetch, QWidget* parent)
     : QListView(parent),
       section_(section),
       table_(table),
@@ -117,7 +118,7 @@ Picture_List::Picture_List(const Section& section, Row_Table& table, Desktop& de
       size_column_(column_named(section.table->rows(), section.pictures.size_column)),
       ratio_(qApp->devicePixelRatio()),
       pictures_(most_kilobytes),
-      thumbnails_(desktop, folder_of_thumbnails().toStdString(), outside()) {
+      thumbnails_(desktop, folder_of_thumbnails().toStdString(), outside(std::move(may_fetch))) {
     set_up();
     setModel(&model_);
     setModelColumn(model_.view_column(path_column_));
@@ -141,12 +142,10 @@ void Picture_List::set_up() {
     setAccessibleDescription(table_.accessibleDescription());
 }
 
-Thumbnails::Outside Picture_List::outside() {
-    return {
-        .may_fetch = [this] { return all_guards_are_up(section_); },
-        .shrink = small_picture,
-        .deliver =
-            [this, ratio = ratio_](const std::string& key, const std::string& content) {
+Thumbnails::Outside Picture_List::outside(std::function<bool()> may_fetch) {
+    return {.may_fetch = std::move(may_fetch),
+            .shrink = small_picture,
+            .deliver = [this, ratio = ratio_](const std::string& key, const std::string& content) {
                 desktop_.post([this, key, image = thumbnail(content, ratio)] { take(key, image); });
             }};
 }

@@ -21,9 +21,10 @@ class Picture_List : public QListView {
     Q_OBJECT
 
   public:
-    /// `table` shows the rows of `section`, and both outlive this.
+    /// `table` shows the rows of `section`, and both outlive this. Nothing is fetched while
+    /// `may_fetch` is false.
     Picture_List(const Section& section, Row_Table& table, Desktop& desktop,
-                 QWidget* parent = nullptr);
+                 std::function<bool()> may_fetch, QWidget* parent = nullptr);
 
     /// Goes on with fetching when that may start now.
     void go_on() { thumbnails_.go_on(); }
@@ -40,7 +41,7 @@ class Picture_List : public QListView {
 
   private:
     void set_up();
-    Thumbnails::Outside outside();
+    Thumbnails::Outside outside(std::function<bool()> may_fetch);
     void take(const std::string& key, const QImage& image);
     /// What fetches the row's picture; without a path for a file that has no reader.
     Thumbnails::Wish wish_of(int row) const;

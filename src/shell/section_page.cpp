@@ -76,7 +76,8 @@ QLayout* Section_Page::command_row() {
 }
 
 void Section_Page::make_pictures() {
-    pictures_ = new Picture_List(section_, *table_, parts_.document.desktop());
+    pictures_ = new Picture_List(section_, *table_, parts_.document.desktop(),
+                                 [&document = parts_.document] { return !document.is_at_work(); });
     pictures_->setObjectName(table_->objectName() + QStringLiteral("_pictures"));
     pictures_->setAccessibleName(table_->accessibleName());
     parts_.guards.on_look([list = pictures_] { list->go_on(); });

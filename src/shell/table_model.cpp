@@ -138,6 +138,8 @@ QVariant Table_Model::data(const QModelIndex& index, int role) const {
 bool Table_Model::setData(const QModelIndex& index, const QVariant& value, int role) {
     // An editor may end after other rows have come into the place of its own.
     if (role != Qt::EditRole || reloads_ != table_.reloads() || !is_there(index)) return false;
+    // What is shown need not be all that the cell holds, and nothing was written then.
+    if (value == data(index, role)) return false;
     table_.rows().set_cell(table_row(index.row()), table_column(index.column()),
                            value.toString().toStdString());
     emit dataChanged(index, index, {Qt::DisplayRole, Qt::EditRole});

@@ -15,10 +15,17 @@ namespace velk {
 
 namespace {
 
+struct One {
+    explicit One(std::string its_name) : name(std::move(its_name)) {}
+
+    const std::string name;
+    Interruptor interruptor;
+};
+
 struct Running {
     std::mutex mutex;
     std::condition_variable one_ended;
-    std::list<Interruptor> interruptors;  // one of each running worker; a list, so none ever moves
+    std::list<One> workers;  // a list, so none ever moves
 };
 
 /// Never destroyed: a worker that is still running when the process ends may use it.
@@ -27,53 +34,59 @@ Running& all() {
     return *running;
 }
 
-void run(const std::string& name, std::function<void()> body,
-         std::list<Interruptor>::iterator own) {
-    pthread_setname_np(pthread_self(), name.substr(0, 15).c_str());
+void run(std::function<void()> body, std::list<One>::iterator own) {
+    pthread_setname_np(pthread_self(), own->name.substr(0, 15).c_str());
     {
-        const Interruptor::Use use(*own);
+        const Interruptor::Use use(own->interruptor);
         body();
         body = nullptr;  // what it owns goes before the worker counts as ended
     }
-    Running& workers = all();
-    const std::lock_guard lock(workers.mutex);
-    workers.interruptors.erase(own);
-    workers.one_ended.notify_all();
+    Running& running = all();
+    const std::lock_guard lock(running.mutex);
+    running.workers.erase(own);
+    running.one_ended.notify_all();
 }
 
 }  // namespace
 
 bool Worker::start(const std::string& name, std::function<void()> body) {
-    Running& workers = all();
-    const std::lock_guard lock(workers.mutex);
-    const auto own = workers.interruptors.emplace(workers.interruptors.end());
+    Running& running = all();
+    const std::lock_guard lock(running.mutex);
+    const auto own = running.workers.emplace(running.workers.end(), name);
     try {
-        std::thread(run, name, std::move(body), own).detach();
+        std::thread(run, std::move(body), own).detach();
         return true;
     } catch (const std::system_error& failure) {
-        workers.interruptors.erase(own);
+        running.workers.erase(own);
         log_line("%s cannot be started: %s", name.c_str(), failure.what());
         return false;
     }
 }
 
 int Worker::running() {
-    Running& workers = all();
-    const std::lock_guard lock(workers.mutex);
-    return static_cast<int>(workers.interruptors.size());
+    Running& running = all();
+    const std::lock_guard lock(running.mutex);
+    return static_cast<int>(running.workers.size());
 }
 
 void Worker::interrupt_all() {
-    Running& workers = all();
-    const std::lock_guard lock(workers.mutex);
-    for (Interruptor& interruptor : workers.interruptors) interruptor.cancel();
+    Running& running = all();
+    const std::lock_guard lock(running.mutex);
+    for (One& worker : running.workers) worker.interruptor.cancel();
+}
+
+void Worker::interrupt(const std::string& name) {
+    Running& running = all();
+    const std::lock_guard lock(running.mutex);
+    for (One& worker : running.workers)
+        if (worker.name == name) worker.interruptor.cancel();
 }
 
 bool Worker::stop_all(std::chrono::milliseconds time) {
-    Running& workers = all();
-    std::unique_lock lock(workers.mutex);
-    for (Interruptor& interruptor : workers.interruptors) interruptor.cancel();
-    return workers.one_ended.wait_for(lock, time, [&] { return workers.interruptors.empty(); });
+    interrupt_all();
+    Running& running = all();
+    std::unique_lock lock(running.mutex);
+    return running.one_ended.wait_for(lock, time, [&] { return running.workers.empty(); });
 }
 
 }  // namespace velk

@@ -19,6 +19,8 @@ class Worker {
 
     /// Interrupts what is running: every wait ends, and so does every later one of these workers.
     static void interrupt_all();
+    /// The same for the workers of one name.
+    static void interrupt(const std::string& name);
 
     /// Interrupts every worker and waits for them. True when all have ended in time. When false,
     /// the rest still runs and the process must end without waiting for it.
