@@ -1,0 +1,72 @@
+#!/usr/bin/env bash
+# Makes the Debian package, has it judged by the tools that judge such things, and tries it: it is
+# installed into a clean system, shows the demo phone there, and is removed again.
+#
+#   scripts/check_package.sh      the package is left in build/release, the tour's pictures below it
+#
+# As root a Debian of its own is made for that, with the mirror that this computer's apt uses. Where
+# that is not possible, the package is unpacked into a folder that takes the system's place.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+export LANG=C.UTF-8
+
+say() { printf '\n== %s\n' "$*"; }
+fail() { echo "check_package: $1" >&2 && exit 1; }
+
+build_package() {
+    rm -f build/release/velk_*.deb
+    cmake --preset release --log-level=WARNING
+    cmake --build --preset release --target velk velk_adb velk_icons demo_phone
+    cpack --preset release
+    package=$(echo build/release/velk_*_"$(dpkg --print-architecture)".deb)
+    [ -f "$package" ] || fail 'no package was made'
+}
+
+# The version stands in four files; a release that forgets one is noticed here.
+check_versions() {
+    local version
+    version=$(dpkg-deb --field "$package" Version)
+    [ "$(dpkg-parsechangelog --file packaging/changelog --show-field Version)" = "$version" ] ||
+        fail "the changelog's newest entry is not for version $version"
+    [ "$(grep -o '<release version="[^"]*"' packaging/*.metainfo.xml | head -n 1 | cut -d '"' -f 2)" = \
+        "$version" ] || fail "the newest release of the metainfo is not version $version"
+}
+
+# What --help names is in the manual page and is completed.
+check_options() {
+    local option
+    for option in $(build/release/bin/velk --help | grep -oE '^ +--[a-z]+'); do
+        man --local-file build/release/packaging/velk.1 | col -b | grep -qe "^ *$option\|, *$option" ||
+            fail "the manual page lacks $option"
+        grep -qe "$option" packaging/velk.bash-completion || fail "$option is not completed"
+    done
+}
+
+judge_package() {
+    lintian --fail-on error,warning --show-overrides "$package"
+    desktop-file-validate packaging/*.desktop
+    appstreamcli validate --no-net packaging/*.metainfo.xml
+    local complaints
+    complaints=$(man --warnings --encoding=utf8 --local-file build/release/packaging/velk.1 2>&1 >/dev/null)
+    [ -z "$complaints" ] || fail "the manual page: $complaints"
+    bash -n packaging/velk.bash-completion
+    check_versions
+    check_options
+}
+
+say 'Package'
+build_package
+dpkg-deb --info "$package"
+dpkg-deb --contents "$package"
+say 'Validators'
+judge_package
+say 'On a clean system'
+rm -rf build/release/package-tour
+if [ "$(id -u)" -eq 0 ] && unshare --mount --pid --fork true 2>/dev/null; then
+    # Whatever is mounted or started in there is gone when it ends.
+    unshare --mount --pid --fork --kill-child scripts/try_package.sh "$package" build/release
+else
+    echo 'Not root, or not allowed to mount: no clean system can be made.'
+    scripts/try_package.sh --unpacked "$package" build/release
+fi
+printf '\n%s (%s bytes) is fine.\n' "$package" "$(stat --format=%s "$package")"
