@@ -22,7 +22,7 @@ build_package() {
     [ -f "$package" ] || fail 'no package was made'
 }
 
-# The version stands in four files; a release that forgets one is noticed here.
+# The version stands in three files; a release that forgets one is noticed here.
 check_versions() {
     local version
     version=$(dpkg-deb --field "$package" Version)
@@ -34,19 +34,23 @@ check_versions() {
 
 # What --help names is in the manual page and is completed.
 check_options() {
-    local option
+    local option page
+    page=$(man --local-file build/release/packaging/velk.1 | col -b)
     for option in $(build/release/bin/velk --help | grep -oE '^ +--[a-z]+'); do
-        man --local-file build/release/packaging/velk.1 | col -b | grep -qe "^ *$option\|, *$option" ||
-            fail "the manual page lacks $option"
+        grep -qe "^ *$option" <<<"$page" || fail "the manual page lacks $option"
         grep -qe "$option" packaging/velk.bash-completion || fail "$option is not completed"
     done
 }
 
 judge_package() {
-    lintian --fail-on error,warning --show-overrides "$package"
+    lintian --allow-root --fail-on error,warning --show-overrides "$package"
     desktop-file-validate packaging/*.desktop
     appstreamcli validate --no-net packaging/*.metainfo.xml
-    local complaints
+    local unpacked complaints
+    unpacked=$(mktemp -d)
+    dpkg-deb --extract "$package" "$unpacked"
+    appstreamcli validate-tree --no-net "$unpacked" # that its parts name each other, too
+    rm -r "$unpacked"
     complaints=$(man --warnings --encoding=utf8 --local-file build/release/packaging/velk.1 2>&1 >/dev/null)
     [ -z "$complaints" ] || fail "the manual page: $complaints"
     bash -n packaging/velk.bash-completion
@@ -63,10 +67,11 @@ judge_package
 say 'On a clean system'
 rm -rf build/release/package-tour
 if [ "$(id -u)" -eq 0 ] && unshare --mount --pid --fork true 2>/dev/null; then
+    scripts/check_udev_rule.sh
     # Whatever is mounted or started in there is gone when it ends.
     unshare --mount --pid --fork --kill-child scripts/try_package.sh "$package" build/release
 else
-    echo 'Not root, or not allowed to mount: no clean system can be made.'
+    echo 'Not root, or not allowed to mount: no clean system can be made, and udev cannot be asked.'
     scripts/try_package.sh --unpacked "$package" build/release
 fi
 printf '\n%s (%s bytes) is fine.\n' "$package" "$(stat --format=%s "$package")"

@@ -19,7 +19,14 @@ packages=(
 )
 case "${1:-}" in
     '') ;;
-    --all) packages+=(clang clang-format-14 clang-tidy-14) ;;
+    --all)
+        packages+=(
+            clang clang-format-14 clang-tidy-14
+            dpkg-dev file librsvg2-bin gzip               # make the package
+            lintian desktop-file-utils appstream man-db   # judge it
+            debootstrap udev umockdev                     # try it
+        )
+        ;;
     *) echo "usage: $0 [--all]" >&2 && exit 2 ;;
 esac
 
