@@ -9,6 +9,7 @@
 #include "session/section_views.h"
 #include "shell/thumbnail_image.h"
 #include "ui/program_wide.h"
+#include "ui/worker.h"
 #include "window_test.h"
 
 namespace velk {
@@ -18,6 +19,7 @@ namespace {
 constexpr const char* tool = R"(#!/bin/sh
 [ "$3" = pull ] || exit 1
 echo "$4" >> "${0%/*}/pulled"
+[ -e "${0%/*}/slow" ] && exec sleep 60
 cp "${0%/*}/phone/${4##*/}" "$5"
 )";
 
@@ -87,15 +89,19 @@ TEST_F(Picture_List_Test, fetches_what_is_in_sight_once_and_leaves_no_other_file
     EXPECT_EQ(pulled(), in_sight);
 }
 
-TEST_F(Picture_List_Test, leaves_the_phone_alone_while_a_command_runs) {
-    photos.g_can_click_photo_export = 0;
+TEST_F(Picture_List_Test, leaves_the_phone_to_the_commands_of_all_sections_at_once) {
+    std::ofstream(file("slow"));
     add_picture("/sdcard/a.png");
     open.click("view_pictures");
     list = open.window->findChild<Picture_List*>();
+    ASSERT_TRUE(wait_until([this] { return pulled() == 1; }));
+    open.desktop.post([] { App_TableSource::g_can_click_app_install = 0; });
+    EXPECT_TRUE(wait_until([] { return Worker::running() == 0; }));
+    std::filesystem::remove(file("slow"));
     list->repaint();
     open.turn();
-    EXPECT_EQ(pulled(), 0U);
-    open.desktop.post([this] { photos.g_can_click_photo_export = 1; });
+    EXPECT_EQ(pulled(), 1U);
+    open.desktop.post([] { App_TableSource::g_can_click_app_install = 1; });
     EXPECT_TRUE(wait_until([this] { return has_picture(0); }));
 }
 
