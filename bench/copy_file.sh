@@ -18,6 +18,7 @@ adb=$VELK_BIN/adb
 on_phone=/sdcard/Movies
 
 seconds() {
+    rm -f "$here/back/film.mp4" # what stood there would cost the second one time
     local began=$EPOCHREALTIME
     "$@" >/dev/null 2>&1
     echo "$began $EPOCHREALTIME" | awk '{printf "%.3f", $2 - $1}'
