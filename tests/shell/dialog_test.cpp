@@ -5,9 +5,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QLineEdit>
-#include <QTextEdit>
 
-#include "shell/detail_pane.h"
 #include "window_test.h"
 
 namespace velk {
@@ -115,18 +113,6 @@ TEST_F(Dialog_Test, is_held_but_for_its_closing_while_what_opens_later_is_free) 
     open.desktop.take_input(true);
     QTest::keyClicks(in(show(letter), "m_ET_To"), "c");
     EXPECT_EQ(letter.to.text(), "c");
-}
-
-TEST_F(Dialog_Test, lets_a_row_that_is_shown_in_full_be_selected_but_not_written) {
-    Label text("text");
-    text.set_text("<b>one</b>\ntwo");
-    Binding binding;
-    Detail_Pane pane({.text = &text, .empty_text = ""}, binding);
-    auto* const reading = pane.findChild<QTextEdit*>();
-    reading->selectAll();
-    QTest::keyClicks(reading, "x");
-    EXPECT_EQ(reading->toPlainText(), "<b>one</b>\ntwo");
-    EXPECT_TRUE(reading->textInteractionFlags() & Qt::TextSelectableByKeyboard);
 }
 
 }  // namespace

@@ -7,7 +7,6 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QTemporaryDir>
-#include <QTimer>
 #include <atomic>
 
 #include "ui/worker.h"
@@ -48,14 +47,6 @@ TEST_F(Alert_Test, gives_the_asking_worker_the_pressed_button_and_holds_nobody_e
     ask_from_a_worker();
     QTest::keyClick(box(), Qt::Key_Escape);
     EXPECT_TRUE(wait_until([this] { return answer == 1; }));
-}
-
-TEST_F(Alert_Test, lets_the_asking_worker_go_when_the_window_closes) {
-    ask_from_a_worker();
-    QTimer::singleShot(0, open.window.get(), [this] { open.window->close(); });
-    EXPECT_EQ(QApplication::exec(), 0);
-    EXPECT_EQ(answer, 1);
-    EXPECT_EQ(Worker::running(), 0);
 }
 
 /// A panel that a test answers as a person would.

@@ -85,8 +85,10 @@ TEST_F(Row_Table_Test, forgets_a_selection_of_rows_that_were_replaced) {
 }
 
 TEST_F(Row_Table_Test, sorts_the_rows_themselves_and_nothing_that_comes_later) {
+    click_cell(1);
     click_header(2);
     EXPECT_EQ(names(), "Adam Berta Cäsar ");
+    EXPECT_EQ(contacts.selected_row, -1) << "a command would hit another row than the chosen one";
     EXPECT_TRUE(view->horizontalHeader()->isSortIndicatorShown());
     click_header(2);
     EXPECT_EQ(names(), "Cäsar Berta Adam ");
@@ -154,12 +156,6 @@ TEST_F(Row_Table_Test, writes_an_open_editor_into_its_cell_when_another_view_is_
     open.document->displayViewController(DEFINE_VIEW_SMS);
     EXPECT_EQ(contacts.table_rows[1].col_name, "Emil");
     EXPECT_EQ(contacts.table_rows[1].col_phone_number, "555-2");
-}
-
-TEST_F(Row_Table_Test, runs_the_delete_command_by_its_key) {
-    click_cell(0);
-    QTest::keyClick(view, Qt::Key_Delete);
-    EXPECT_TRUE(wait_until([] { return QApplication::activeModalWidget() != nullptr; }));
 }
 
 }  // namespace

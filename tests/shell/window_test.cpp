@@ -34,14 +34,6 @@ class End_Of_Application : public testing::Environment {
 [[maybe_unused]] testing::Environment* const end_of_application =
     testing::AddGlobalTestEnvironment(new End_Of_Application);
 
-QPalette palette_of(const QColor& window, const QColor& base, const QColor& text) {
-    QPalette palette(window);
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        palette.setColor(role, text);
-    palette.setColor(QPalette::Base, base);
-    return palette;
-}
-
 }  // namespace
 
 QApplication& test_application() {
@@ -54,14 +46,6 @@ QApplication& test_application() {
         qInstallMessageHandler(fail_on_warnings);
     }
     return *application;
-}
-
-QPalette dark_palette() {
-    return palette_of(QColor(0x24, 0x27, 0x2c), QColor(0x1b, 0x1e, 0x22), QColor(0xe6, 0xe8, 0xea));
-}
-
-QPalette light_palette() {
-    return palette_of(QColor(0xf3, 0xf4, 0xf6), Qt::white, QColor(0x1c, 0x1f, 0x24));
 }
 
 bool wait_until(const std::function<bool()>& condition) {

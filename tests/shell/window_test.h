@@ -17,10 +17,6 @@ namespace velk {
 /// Made once for the process; every warning of the toolkit from then on is a failure.
 QApplication& test_application();
 
-/// A dark and a light desktop.
-QPalette dark_palette();
-QPalette light_palette();
-
 /// Turns the event loop until the condition holds; false when it has not after ten seconds.
 bool wait_until(const std::function<bool()>& condition);
 
