@@ -2,10 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <random>
-
-#include "agent/bytes.h"
-#include "agent/carried_list.h"
 #include "agent/record_places.h"
 #include "agent/scripted_source.h"
 
@@ -72,73 +68,6 @@ TEST(ChunkSource, WhenMoreThanAChunkIsThereItEndsAtTheLastSafePlace) {
         Record_Places rule(largest, header, each.record);
         EXPECT_EQ(lengths(chunks_of({{std::string(each.length, 'r')}}, rule)), each.expected)
             << each.what;
-    }
-}
-
-TEST(ChunkSource, AnErrorComesBehindWhatWasReceived) {
-    class Broken : public Byte_Source {
-      public:
-        bool readable_within(std::chrono::milliseconds) override { return true; }
-        int receive(char* bytes, std::size_t) override {
-            if (std::exchange(received_, true)) return -1;
-            std::fill_n(bytes, 20, 'r');
-            return 20;
-        }
-
-      private:
-        bool received_ = false;
-    } source;
-    Record_Places rule(largest, header, fixed_record);
-    Chunk_Source chunks(source, rule);
-    std::string chunk;
-    EXPECT_EQ(chunks.next(chunk), 20);
-    EXPECT_EQ(chunks.next(chunk), -1);
-    EXPECT_TRUE(chunk.empty());
-}
-
-// A list with texts, as a phone's are: a number and two texts, of which the last is taken short
-// when it is cut, and which ends with the first chunk that ends where a record seems to.
-Stretch record_with_texts(std::string_view bytes) {
-    const std::size_t last_text = behind_text(bytes, 4);
-    return {behind_text(bytes, last_text), last_text + 4};
-}
-
-TEST(ChunkSource, AListOfTextsComesInWholeHoweverTheNetworkCutsIt) {
-    for (unsigned seed = 0; seed < 100; ++seed) {
-        std::mt19937 random(seed);
-        const auto below = [&](std::size_t end) { return random() % end; };
-        const auto text = [&](std::size_t most) {
-            const std::size_t length = below(most);
-            return std::string{'\0', '\0', static_cast<char>(length >> 8),
-                               static_cast<char>(length)} +
-                   std::string(length, 't');
-        };
-        std::string reply(header, 'h');
-        const std::size_t records = 200 + below(200);
-        for (std::size_t i = 0; i < records; ++i) reply += "\1\1\1\1" + text(120) + text(40);
-
-        std::vector<Arrival> script;
-        for (std::size_t place = 0; place < reply.size();) {
-            const std::size_t piece = 1 + below(seed % 2 == 0 ? 4096 : 200);
-            script.push_back({reply.substr(place, piece), static_cast<int>(below(10))});
-            place += piece;
-        }
-        Record_Places rule(4096, header, record_with_texts);
-        Scripted_Source source(script);
-        std::size_t arrived = 0;
-        const auto parse = [&arrived](const std::string& bytes, int start) {
-            for (auto place = static_cast<std::size_t>(start); place < bytes.size();) {
-                const std::string_view rest = std::string_view(bytes).substr(place);
-                const Stretch record = record_with_texts(rest);
-                if (record.losing_from > rest.size()) return std::string(rest);
-                if (record.length <= rest.size()) ++arrived;
-                place += record.length;
-            }
-            return std::string();
-        };
-        read_carried_over(source, rule, parse,
-                          [](const std::string& left) { return left.empty(); });
-        EXPECT_EQ(arrived, records) << "seed " << seed;
     }
 }
 

@@ -56,15 +56,5 @@ TEST(Codec, SizesChangeTheirUnitOnlyAboveItsThreshold) {
     }
 }
 
-TEST(Codec, DurationsAreCutToWholeSecondsAndTraced) {
-    const std::pair<const char*, const char*> cases[] = {
-        {"3725999", "01:02:05"}, {"999", "00:00:00"}, {"2147483647", "596:31:23"}};
-    for (const auto& [milliseconds, text] : cases) {
-        testing::internal::CaptureStdout();
-        EXPECT_EQ(sock_apk::get_time(milliseconds), text);
-        EXPECT_EQ(testing::internal::GetCapturedStdout(), text);
-    }
-}
-
 }  // namespace
 }  // namespace velk

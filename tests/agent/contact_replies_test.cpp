@@ -60,17 +60,5 @@ TEST(ContactReplies, TheRestOfAReplyBehindALongPauseIsNeverTheStartOfAnother) {
     EXPECT_FALSE(rule.too_long());
 }
 
-TEST(ContactReplies, ALengthThatIsNotThereYetIsWaitedForAndThenGivenUp) {
-    const std::string whole = reply(500);
-    for (std::size_t place = 1; place < 6; ++place) {
-        Contact_Replies patient, given_up;
-        EXPECT_EQ(chunks_of({{whole.substr(0, place)}, {whole.substr(place), 69}}, patient),
-                  std::vector<std::string>{whole});
-        const auto chunks =
-            chunks_of({{whole.substr(0, place)}, {whole.substr(place), 71}}, given_up);
-        EXPECT_EQ(lengths(chunks), (std::vector<std::size_t>{place, 500 - place}));
-    }
-}
-
 }  // namespace
 }  // namespace velk

@@ -43,7 +43,7 @@ TEST(Libraries, EveryListReadsItsOwnFieldsAndLeavesWhatIsCut) {
         text("1536") + text("day") + text("\xFF\0n"s) + text("p") + text("1.0") + text("f");
     const std::string song = number(65543) + text("singer") + text("album") + text("/m") +
                              text("3725999") + text("512") + "\1\2";
-    const std::string film = number(7) + text("/v") + text("999") + text("abc");
+    const std::string film = number(7) + text("/v") + text("2147483647") + text("abc");
     const std::string photo = number(8) + text("/p") + text("1025");
     const std::string book = text("/b/x") + text("0") + text("/b"), cut = song.substr(0, 10);
     const std::string an_app = "1.50 KB,day,\xFF\0n,p,1.0,f;"s;
@@ -63,7 +63,7 @@ TEST(Libraries, EveryListReadsItsOwnFieldsAndLeavesWhatIsCut) {
         {music, song.substr(0, 7), 0, song.substr(0, 7), first},
         {music, cut, 0, cut, later},
         {music, song.substr(0, song.size() - 1), 0, song.substr(0, song.size() - 1), later},
-        {videos, film, 0, "7,/v,00:00:00,0.00 B;", none},
+        {videos, film, 0, "7,/v,596:31:23,0.00 B;", none},
         {photos, photo, 0, "8,/p,1.00 KB;", none},
         {photos, photo.substr(0, 16), 0, "8,/p,10.00 B;", none},
         {books, book, 0, "/b/x,0.00 B,/b;", none},

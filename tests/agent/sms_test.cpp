@@ -2,9 +2,7 @@
 
 #include <random>
 
-#include "agent/carried_list.h"
 #include "agent/sock_apk.h"
-#include "base/text.h"
 #include "support/agent_double.h"
 
 namespace velk {
@@ -79,23 +77,6 @@ TEST(Sms, DamagedBytesAreReadWithinTheirBounds) {
         sock_apk::get_sms_data_to_stru_array(data, static_cast<int>(data.size()), 1, messages, 0,
                                              0);
     }
-}
-
-TEST(SmsExchange, TheListEndsAtABareHeaderAndEveryChunkIsTraced) {
-    Agent_Double agent;
-    const std::string reply = packet(record("5", "A", 7)) + packet("");
-    Agent_Double::Reply open(reply);
-    open.end = Agent_Double::Reply::End::stay_silent;
-    agent.reply_to(47, open);
-    std::vector<SMS_RECORD> messages;
-    testing::internal::CaptureStdout();
-    sock_apk().send_command_get_sms("47", messages);
-    const std::string size = std::to_string(reply.size());
-    EXPECT_EQ(testing::internal::GetCapturedStdout(),
-              "\n\nsend:'/',[ASCII Value='47']\nEvery time Receive data length '" + size +
-                  "' :\nTEL='5',TEXT='A',DATE='2024',TYPE=1,ID=7,threadID=5,read=0\n"
-                  "recv is 47 value and to break!\n\nreceive string length =" +
-                  size + "\ncount :1\n");
 }
 
 TEST(SmsExchange, EveryMessageArrivesHoweverTheReplyIsCut) {

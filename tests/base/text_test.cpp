@@ -8,18 +8,6 @@ namespace {
 using namespace std::string_literals;
 using namespace std::string_view_literals;
 
-TEST(Text, FormattedTextsMayBeOfAnyLength) {
-    const std::string longer_than_any_buffer(100000, 'x');
-    EXPECT_EQ(format("<%s>%d", longer_than_any_buffer.c_str(), 7),
-              "<" + longer_than_any_buffer + ">7");
-    EXPECT_EQ(format("%s", ""), "");
-}
-
-TEST(Text, ATextEndsAtItsFirstNul) {
-    EXPECT_EQ(until_nul("ab\0cd"sv), "ab");
-    EXPECT_EQ(until_nul("abcd"), "abcd");
-}
-
 TEST(Text, IllFormedPiecesAreFoundAndReplaced) {
     const std::string bad = "\xEF\xBF\xBD";
     const struct {
@@ -64,12 +52,6 @@ TEST(Text, SearchesIgnoreCaseInEveryScript) {
     };
     for (const auto& each : cases)
         EXPECT_EQ(contains_ignoring_case(each.text, each.what), each.found) << each.text;
-}
-
-TEST(Text, PiecesAreReplacedFromTheLeftAndOnlyOnce) {
-    EXPECT_EQ(replace_all("aaa\n\n", "\n"sv, "<br>"), "aaa<br><br>");
-    EXPECT_EQ(replace_all("aaa", "aa"sv, "a"), "aa");
-    EXPECT_EQ(replace_all("abc", ""sv, "x"), "abc");
 }
 
 TEST(Text, NumbersAreReadAsFarAsTheyGoAndWrapAt32Bits) {

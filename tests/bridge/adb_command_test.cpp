@@ -41,20 +41,6 @@ TEST(ADB_Command, passes_each_argument_whole_and_logs_the_exchange) {
     }
 }
 
-TEST(ADB_Command, counts_an_uninstall_as_failed_only_by_the_bare_word) {
-    const Fake_Adb adb;
-    for (const std::string output :
-         {"Failure", "Failure\n", "Failure [DELETE_FAILED_INTERNAL_ERROR]\n", "Success\n", ""}) {
-        adb.answer("uninstall a.b", {.output = output});
-        const std::string verdict = output == "Failure" ? "[Failure!]" : "[Success!]";
-        testing::internal::CaptureStderr();
-        EXPECT_EQ(ADB_Command().Uninstall_Apk_From_Android(adb.tool(), "S1", "a.b"),
-                  verdict + " Uninstall APK:'a.b'.");
-        EXPECT_THAT(testing::internal::GetCapturedStderr(),
-                    EndsWith("Uninstall:'a.b' :: [" + output + "]\n"));
-    }
-}
-
 TEST(ADB_Command, calls_a_forward_good_when_the_tool_printed_nothing) {
     const Fake_Adb adb;
     adb.answer("forward", {.errors = "error: device offline\n", .status = 1});

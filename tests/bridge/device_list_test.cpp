@@ -39,16 +39,5 @@ TEST(Device_List, is_read_from_what_the_tool_printed) {
     }
 }
 
-TEST(Device_List, is_read_at_every_length_without_harm) {
-    const std::string whole = header + "\n4df1f2c8\tdevice\n\n";
-    for (std::size_t length = 0; length <= whole.size(); ++length) {
-        const std::string output = whole.substr(0, length);
-        const std::size_t position = attached_position(output);
-        const bool has_serial = length > whole.find('\t');
-        EXPECT_EQ(get_device_sn_id(output, position), has_serial ? "4df1f2c8" : "") << length;
-        EXPECT_EQ(lists_a_device(output, position), length > header.size() + 2) << length;
-    }
-}
-
 }  // namespace
 }  // namespace velk

@@ -38,17 +38,6 @@ TEST(OrderedQueue, EachThreadsClosuresRunInTheOrderItPostedThem) {
     for (std::thread& poster : posters) poster.join();
 }
 
-TEST(OrderedQueue, ATurnThatHasUsedItsTimeLetsTheWindowBreatheAndAsksForAnother) {
-    int wakes = 0, run = 0;
-    Ordered_Queue queue([&] { ++wakes; });
-    for (int i = 0; i < 3; ++i) queue.post([&] { ++run; });
-    for (int turn = 1; turn <= 3; ++turn) {
-        queue.run_turn(std::chrono::nanoseconds(0));
-        EXPECT_EQ(run, turn);
-        EXPECT_EQ(wakes, turn < 3 ? turn + 1 : 3);
-    }
-}
-
 TEST(OrderedQueue, ClosingDropsWhatWaitsAndRefusesTheRest) {
     Ordered_Queue queue([] {});
     struct Posts_When_It_Goes {
