@@ -1,7 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "test_phone.h"
+#include "demo_phone/phone_storage.h"
 
 namespace velk {
 namespace {

@@ -32,12 +32,6 @@ class Address_Book : public On_The_Demo_Phone {
             dialog.OnBT_OK();
         });
     }
-    /// A page's texts hold no quote, and a comma ends a name one letter early.
-    static std::string after_a_page(const std::string& name) {
-        const std::size_t comma = name.find(',');
-        return replace_all(name.substr(0, comma == std::string::npos ? comma : comma - 1), '\'',
-                           ' ');
-    }
     void select_contact(const std::string& name) {
         for (int row = 0; row < rows().count(); ++row)
             if (rows()[static_cast<std::size_t>(row)].col_name == name)
@@ -66,23 +60,6 @@ TEST_F(Address_Book, changes_as_the_person_says) {
     contacts().OnBT_Contacts_DelAll();
     desktop.finish_work();
     EXPECT_THAT(on_the_phone(), testing::IsEmpty());
-}
-
-TEST_F(Address_Book, has_every_contact_twice_after_an_import_of_its_own_export) {
-    const std::vector<std::string> before = on_the_phone();
-    ASSERT_EQ(before.size(), 240U);
-    std::vector<std::string> expected = before;
-    for (const auto& row : rows())
-        expected.push_back(after_a_page(row.col_name) + " | " + row.col_phone_number);
-    std::sort(expected.begin(), expected.end());
-
-    desktop.choose_file(file("book"));
-    contacts().OnBT_ContactsExport();
-    desktop.finish_work();
-    desktop.choose_file(file("book.HTML"));
-    contacts().OnBT_ContactsImport();
-    desktop.finish_work();
-    EXPECT_EQ(on_the_phone(), expected);
 }
 
 }  // namespace

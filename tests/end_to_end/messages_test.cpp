@@ -1,6 +1,5 @@
 #include <algorithm>
 
-#include "base/file.h"
 #include "end_to_end/demo_session.h"
 #include "managers/sms_tablesource.h"
 
@@ -54,19 +53,6 @@ TEST_F(Message_Archive, sends_and_deletes_what_the_person_says) {
     messages().OnBT_SMS_DeleteAll();
     desktop.finish_work();
     EXPECT_TRUE(messages().table_rows.empty());
-}
-
-TEST_F(Message_Archive, exports_every_message_of_the_phone) {
-    desktop.choose_file(file("archive"));
-    messages().OnBT_Export_SMS();
-    desktop.finish_work();
-    EXPECT_EQ(messages().m_LB_TIPS.text(), "Successed to save \"" + file("archive.HTML") + "\".");
-    const std::string page = read_whole_file(file("archive.HTML")).value_or("");
-    std::size_t at = 0;
-    for (int number = 1; number <= 300; ++number) {
-        at = page.find("\n['" + std::to_string(number) + "','", at);
-        ASSERT_NE(at, std::string::npos) << number;
-    }
 }
 
 }  // namespace
