@@ -146,18 +146,6 @@ TEST_F(Contacts_Commands, leaves_the_rows_of_a_load_alone_that_came_during_a_del
         ElementsAre("m_table_Contacts reloaded: 3 rows", "m_table_Contacts reloaded: 0 rows"));
 }
 
-TEST_F(Contacts_Commands, ends_with_the_window) {
-    load_three();
-    select({0, 1, 2});
-    agent.be_silent();
-    window.test_desktop.answer_alert(yes);
-    contacts.OnBT_DeleteContacts();
-    ASSERT_TRUE(window.test_desktop.pump_until([&] { return edits().size() == 1; }));
-    window.test_desktop.end_work();
-    EXPECT_EQ(edits().size(), 1U);  // the goodbye is the last that a phone hears
-    EXPECT_EQ(contacts.table_rows.count(), 3);
-}
-
 TEST_F(Contacts_Commands, deletes_all_on_the_phone_after_a_yes) {
     load_three();
     window.test_desktop.answer_alert(1);

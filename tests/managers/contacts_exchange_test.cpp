@@ -63,19 +63,6 @@ TEST_F(Contacts_Exchange, asks_before_it_replaces_and_says_why_it_could_not_save
     EXPECT_EQ(quiet(), "Is a directory");
 }
 
-TEST_F(Contacts_Exchange, keeps_the_old_file_when_the_window_closes_during_an_export) {
-    load_three();
-    ASSERT_EQ(write_whole_file(folder.path("old.HTML"), "kept"), "");
-    window.test_desktop.choose_file(folder.path("old"));
-    window.test_desktop.answer_alert(yes);
-    window.test_desktop.on_note = [this](const std::string& line) {
-        if (line.starts_with("alert: ")) window.test_desktop.close_gate();
-    };
-    contacts.OnBT_ContactsExport();
-    ASSERT_TRUE(window.test_desktop.pump_until([] { return Worker::running() == 0; }));
-    EXPECT_EQ(read_whole_file(folder.path("old.HTML")), "kept");
-}
-
 TEST_F(Contacts_Exchange, imports_an_export_and_reloads) {
     agent.reply_to('5', Agent_Double::added("104"));
     import(

@@ -26,43 +26,6 @@ TEST_F(Contacts_Load, tells_its_progress_row_by_row_and_then_the_count) {
     EXPECT_THAT(column(3), ElementsAre("555", "12!34"));
 }
 
-TEST_F(Contacts_Load, ends_with_an_empty_table_when_the_agent_answers_nothing) {
-    load({{"7", "Ann", "555"}});
-    agent.reply_to(14, "");
-    contacts.OnBT_Contacts_Refresh();
-    finish();
-    EXPECT_TRUE(contacts.table_rows.empty());
-    EXPECT_EQ(contacts.m_LB_Tips_Contacts.text(), "There are 0 contact(s) on your Mobile Phone.");
-    EXPECT_EQ(recorder.lines_of("title").back(), "title 0: Contacts(0)");
-}
-
-TEST_F(Contacts_Load, ignores_a_refresh_while_it_loads) {
-    agent.be_silent();
-    contacts.OnBT_Contacts_Refresh();
-    ASSERT_TRUE(window.test_desktop.pump_until([&] { return agent.requests().size() == 1; }));
-    window.test_desktop.pump();
-    recorder.clear();
-    contacts.OnBT_Contacts_Refresh();
-    contacts.ContactsLoad();
-    window.test_desktop.pump();
-    EXPECT_THAT(recorder.lines(), testing::IsEmpty());
-    EXPECT_EQ(agent.requests().size(), 1U);
-    EXPECT_EQ(window.busy.m_LB_Busy.text(), "Waiting for the phone: contacts");
-    g_can_click_contacts_load = 1;
-}
-
-TEST_F(Contacts_Load, sorts_the_rows_themselves_and_leaves_their_numbers) {
-    load({{"10", "Zoe", "3"}, {"9", "Ann", "1"}, {"100", "Max", "2"}});
-    contacts.m_table.select({2}, 2);
-    EXPECT_EQ(contacts.selected_row, 2);
-    contacts.m_table.sort(1, true);  // ids as numbers
-    EXPECT_THAT(column(1), ElementsAre("9", "10", "100"));
-    EXPECT_EQ(contacts.selected_row, -1);  // no command may hit another row than the chosen one
-    contacts.m_table.sort(2, false);
-    EXPECT_THAT(column(2), ElementsAre("Zoe", "Max", "Ann"));
-    EXPECT_THAT(column(0), ElementsAre("1", "3", "2"));
-}
-
 TEST_F(Contacts_Load, says_quietly_what_is_wrong_with_the_list) {
     const std::vector<Agent_Double::Contact> two = {{"7", "Ann", "555"}, {"8", "Ben", "666"}};
     g_int_count_contacts = 3;

@@ -30,14 +30,5 @@ TEST(Thumbnail_Cache_Test, lets_go_of_what_was_not_used_for_longest) {
     EXPECT_EQ(Thumbnail_Cache(place, 1000).find("new"), std::string(400, 'n'));
 }
 
-TEST(Thumbnail_Cache_Test, names_files_by_all_that_tells_pictures_apart_and_by_nothing_else) {
-    const std::string key = Thumbnail_Cache::key_of("s", "/../../a b", "1 KB");
-    EXPECT_EQ(key.find_first_not_of("0123456789abcdef"), std::string::npos);
-    for (const auto& other : {Thumbnail_Cache::key_of("t", "/../../a b", "1 KB"),
-                              Thumbnail_Cache::key_of("s", "/../../a", "1 KB"),
-                              Thumbnail_Cache::key_of("s", "/../../a b", "2 KB")})
-        EXPECT_NE(key, other);
-}
-
 }  // namespace
 }  // namespace velk

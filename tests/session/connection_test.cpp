@@ -212,7 +212,7 @@ TEST_F(Session, loads_each_list_behind_an_attempt_also_where_an_earlier_load_sti
     phone_is_fine();
     std::promise<void> answer;
     Agent_Double::Reply late;
-    late.pieces.push_back({"", {}, answer.get_future().share()});
+    late.pieces.push_back({"", answer.get_future().share()});
     agent.reply_once_to(118, late);
     dynamic_cast<View_Photo&>(*document.m_views[DEFINE_VIEW_Photo]).source.OnBT_Refresh();
     ASSERT_TRUE(desktop.pump_until([&] { return agent.requests().size() == 1; }));

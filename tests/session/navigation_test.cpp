@@ -52,16 +52,6 @@ TEST_F(Navigation, opens_a_section_when_connected_and_keeps_a_person_where_work_
     g_can_click_refresh = 1;
 }
 
-TEST_F(Navigation, gives_a_section_the_window_and_my_android_the_summary_alone) {
-    g_connected_adb = 1;
-    document.OnBT_Music();
-    EXPECT_TRUE(document.m_BT_Refresh.hidden());
-    document.OnBT_MyAndroid();
-    for (const Outlet* control : document.summary_controls())
-        EXPECT_FALSE(control->hidden()) << control->name();
-    EXPECT_EQ(view_in_the_box(), "nothing");
-}
-
 TEST_F(Navigation, reloads_contacts_messages_and_applications_once_after_a_refresh) {
     phone_is_fine();
     agent.reply_to(14, Agent_Double::contacts({{"7", "Ann", "555"}}));
@@ -93,37 +83,6 @@ TEST_F(Navigation, changes_nothing_but_beeps_while_an_editor_keeps_the_focus) {
     desktop.editing_ends = true;
     document.displayViewController(nullptr);
     EXPECT_TRUE(document.m_Control_Box1.hidden());
-}
-
-TEST_F(Navigation, recolours_the_captions_in_their_order_and_only_when_they_are_white) {
-    document.set_BT_Caption_White();
-    const std::vector<std::string> in_order = {
-        "m_BT_MyAndroid colour: 255 255 255", "m_BT_Contacts colour: 255 255 255",
-        "m_BT_SMS colour: 255 255 255",       "m_BT_Apps colour: 255 255 255",
-        "m_BT_Photo colour: 255 255 255",     "m_BT_Video colour: 255 255 255",
-        "m_BT_Music colour: 255 255 255",     "m_BT_Book colour: 255 255 255"};
-    EXPECT_EQ(recorder.lines(), in_order);
-
-    recorder.clear();
-    b_is_white_ToolBar_ButtonCaption = 0;
-    phone_is_fine();
-    refresh();
-    for (const std::string& line : recorder.lines())
-        EXPECT_EQ(line.find("colour"), std::string::npos) << line;
-    b_is_white_ToolBar_ButtonCaption = 1;
-}
-
-TEST_F(Navigation, tells_a_message_with_one_button_and_lets_a_worker_wait_for_it) {
-    desktop.hold_alert();
-    Worker::start("asks", [this] { document.show_message("from a worker"); });
-    ASSERT_TRUE(desktop.pump_until([this] { return desktop.alert_is_open(); }));
-    EXPECT_EQ(Worker::running(), 1);
-    const Alert& alert = desktop.alerts().front();
-    EXPECT_EQ(alert.title, "Information");
-    EXPECT_EQ(alert.buttons, std::vector<std::string>{"OK"});
-    EXPECT_EQ(alert.style, Alert_Style::warning);
-    desktop.press(0);
-    EXPECT_TRUE(desktop.pump_until([] { return Worker::running() == 0; }));
 }
 
 }  // namespace

@@ -40,12 +40,10 @@ class Session : public testing::Test {
         for (const auto& [code, text] : values) agent.reply_to(code, Agent_Double::value(text));
     }
 
-    void wait_for_the_attempt() { desktop.finish_work(); }
-
     /// Presses Refresh and waits for the end of the attempt and of the loads behind it.
     void refresh() {
         document.OnBT_Refresh();
-        wait_for_the_attempt();
+        desktop.finish_work();
     }
 
     std::string view_in_the_box() const {

@@ -66,7 +66,7 @@ Agent_Double::~Agent_Double() {
     }
     ::close(stop_[1]);
     acceptor_.join();
-    reap(true);
+    for (Conversation& each : conversations_) each.thread.join();
     ::close(stop_[0]);
     ::close(listener_);
 }
@@ -78,27 +78,12 @@ void Agent_Double::accept_all() {
         if (waiting[1].revents != 0) return;
         const int descriptor = ::accept4(listener_, nullptr, nullptr, SOCK_CLOEXEC);
         if (descriptor < 0) continue;
-        reap(false);
         const std::lock_guard lock(mutex_);
         Conversation& conversation = conversations_.emplace_back();
         conversation.descriptor = descriptor;
         if (stopping_) ::shutdown(descriptor, SHUT_RDWR);
         conversation.thread = std::thread([this, &conversation] { converse(conversation); });
     }
-}
-
-/// Joins the conversations that have ended, or all.
-void Agent_Double::reap(bool all) {
-    std::list<Conversation> ended;
-    {
-        const std::lock_guard lock(mutex_);
-        for (auto each = conversations_.begin(); each != conversations_.end();) {
-            const auto next = std::next(each);
-            if (all || each->ended) ended.splice(ended.end(), conversations_, each);
-            each = next;
-        }
-    }
-    for (Conversation& each : ended) each.thread.join();
 }
 
 void Agent_Double::converse(Conversation& conversation) {
@@ -126,15 +111,14 @@ Agent_Double::Reply Agent_Double::take_reply(const std::string& request) {
     } else if (!once.empty()) {
         reply = once.front();
         once.erase(once.begin());
-    } else {
-        reply = known != replies_.end() ? known->second : default_;
+    } else if (known != replies_.end()) {
+        reply = known->second;
     }
     return reply;
 }
 
 void Agent_Double::answer(int descriptor, const Reply& reply) {
     for (const Piece& piece : reply.pieces) {
-        if (!pause(piece.wait)) return;
         while (piece.gate.valid() &&
                piece.gate.wait_for(std::chrono::seconds(0)) != std::future_status::ready)
             if (!pause(std::chrono::milliseconds(1))) return;
@@ -164,11 +148,6 @@ void Agent_Double::reply_once_to(int code, Reply reply) {
     once_[code].push_back(std::move(reply));
 }
 
-void Agent_Double::reply_by_default(Reply reply) {
-    const std::lock_guard lock(mutex_);
-    default_ = std::move(reply);
-}
-
 void Agent_Double::be_silent() {
     const std::lock_guard lock(mutex_);
     silent_ = true;
@@ -191,14 +170,6 @@ bool Agent_Double::wait_for_requests(std::size_t count) {
         changed_.wait_for(lock, longer_than_needed, [&] { return requests_.size() >= count; });
     EXPECT_TRUE(came) << "only " << requests_.size() << " requests came";
     return came;
-}
-
-std::size_t Agent_Double::open_conversations() {
-    const std::lock_guard lock(mutex_);
-    std::size_t open = 0;
-    for (const Conversation& each : conversations_)
-        if (!each.ended) ++open;
-    return open;
 }
 
 std::string Agent_Double::number(std::size_t value) {
@@ -242,11 +213,10 @@ Agent_Double::Reply Agent_Double::messages(const std::vector<Message>& messages)
     return packets + header(0);
 }
 
-Agent_Double::Reply Agent_Double::in_pieces(const std::string& bytes, std::size_t length,
-                                            std::chrono::milliseconds wait_between) {
+Agent_Double::Reply Agent_Double::in_pieces(const std::string& bytes, std::size_t length) {
     Reply reply;
     for (std::size_t start = 0; start < bytes.size(); start += length)
-        reply.pieces.push_back({bytes.substr(start, length), wait_between});
+        reply.pieces.push_back({bytes.substr(start, length)});
     return reply;
 }
 

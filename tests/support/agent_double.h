@@ -16,11 +16,10 @@ namespace velk {
 
 class Agent_Double {
   public:
-    /// What comes back for a request: pieces, with a wait in front of each.
+    /// What comes back for a request.
     struct Piece {
         std::string bytes;
-        std::chrono::milliseconds wait{0};
-        std::shared_future<void> gate = {};  // waited for as well, where there is one
+        std::shared_future<void> gate = {};  // waited for first, where there is one
     };
     struct Reply {
         std::vector<Piece> pieces;
@@ -49,8 +48,6 @@ class Agent_Double {
     void reply_to(int code, Reply reply);
     /// To requests that begin with this byte, once each in this order, before the reply above.
     void reply_once_to(int code, Reply reply);
-    /// To all others.
-    void reply_by_default(Reply reply);
     /// From now on nobody is answered: connections stay open without a byte.
     void be_silent();
 
@@ -60,8 +57,6 @@ class Agent_Double {
     std::vector<std::string> codes();
     /// Waits until that many requests have come; fails the test when they do not.
     bool wait_for_requests(std::size_t count);
-    /// Conversations that are open now.
-    std::size_t open_conversations();
 
     // Replies as the agent makes them.
 
@@ -83,8 +78,7 @@ class Agent_Double {
     /// The reply to a request for the messages: a packet for each, and the bare header.
     static Reply messages(const std::vector<Message>& messages);
     /// The bytes in pieces of this length.
-    static Reply in_pieces(const std::string& bytes, std::size_t length,
-                           std::chrono::milliseconds wait_between = {});
+    static Reply in_pieces(const std::string& bytes, std::size_t length);
     /// A number as the agent writes it: four bytes, most significant first.
     static std::string number(std::size_t value);
 
@@ -100,7 +94,6 @@ class Agent_Double {
     void answer(int descriptor, const Reply& reply);
     Reply take_reply(const std::string& request);
     bool pause(std::chrono::milliseconds time);
-    void reap(bool all);
 
     int listener_ = -1;
     int stop_[2] = {-1, -1};  // a pipe; its end means stop
@@ -112,7 +105,6 @@ class Agent_Double {
     bool silent_ = false;
     std::map<int, Reply> replies_;
     std::map<int, std::vector<Reply>> once_;
-    Reply default_;
     std::vector<std::string> requests_;
     std::list<Conversation> conversations_;
 };

@@ -27,18 +27,12 @@ void Outlet_Recorder::watch(Button& button) {
         const Colour colour = button.colour();
         if (button.last_change() == "colour")
             return format(" colour: %d %d %d", colour.red, colour.green, colour.blue);
-        if (button.last_change() == "centred")
-            return button.centred() ? " centred" : " not centred";
         return ": " + button.title();
     });
 }
 
 void Outlet_Recorder::watch(Level_Indicator& gauge) {
     watch(gauge, [&gauge] { return ": " + std::to_string(gauge.value()); });
-}
-
-void Outlet_Recorder::watch(Text_Field& field) {
-    watch(field, [&field] { return ": " + field.text(); });
 }
 
 void Outlet_Recorder::watch(Table& table) {

@@ -15,14 +15,13 @@ namespace velk {
 ///   m_LB_ps: Loading......             a text, a title, a value
 ///   m_LB_Size_PhoneTotal tool tip: 1,000
 ///   m_BT_Refresh hidden, m_BT_Refresh shown
-///   m_BT_Contacts colour: 255 255 255, m_BT_Contacts centred
+///   m_BT_Contacts colour: 255 255 255
 ///   m_table_Contacts reloaded: 0 rows, m_table_Contacts: 12 rows, m_table_Contacts scrolled
 class Outlet_Recorder {
   public:
     void watch(Label& label);
     void watch(Button& button);
     void watch(Level_Indicator& gauge);
-    void watch(Text_Field& field);
     void watch(Table& table);
     /// Any other outlet: `describe` gives what is written behind its name.
     void watch(Outlet& outlet, std::function<std::string()> describe);
