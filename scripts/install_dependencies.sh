@@ -14,6 +14,7 @@ packages=(
     libplist-dev                     # contacts as a property list
     adb                              # talks to the phone
     libgtest-dev libgmock-dev        # the tests
+    libumockdev-dev umockdev         # a USB bus for them and for the demo phone
     # Names on a phone come in every script; a bare system cannot draw any.
     fonts-dejavu-core fonts-noto-core fonts-wqy-microhei fonts-noto-color-emoji
 )

@@ -6,7 +6,9 @@
 
 #include "agent/sock_apk.h"
 #include "session/section_views.h"
+#include "session/usb_monitor.h"
 #include "ui/program_wide.h"
+#include "ui/unix_signals.h"
 #include "ui/worker.h"
 #include "version.h"
 
@@ -23,8 +25,8 @@ constexpr double seconds_of_the_timer = 0.2;
 
 }  // namespace
 
-MainDocument::MainDocument(Desktop& desktop, const std::string& directory)
-    : Adb_Wrappers(desktop, directory), desktop_(desktop) {
+MainDocument::MainDocument(Desktop& desktop, const std::string& directory, Usb_Monitor* usb)
+    : Adb_Wrappers(desktop, directory), desktop_(desktop), usb_(usb) {
     g_window = this;
     g_device = 100;
     m_LB_ps.set_text("Loading......");
@@ -49,9 +51,11 @@ MainDocument::MainDocument(Desktop& desktop, const std::string& directory)
                std::move(books)};
     for (const auto& view : m_views) view->managedObjectContext = this;
     refresh_ini_ui();
+    if (usb_) CheckDeviceExist();
 }
 
 MainDocument::~MainDocument() {
+    if (usb_) usb_->stop();
     g_window = nullptr;
 }
 
@@ -94,6 +98,11 @@ void MainDocument::windowWillClose() {
     answer.wait_for(time_for_the_last_request);
     Worker::stop_all(time_for_the_workers);
     desktop_.terminate();
+}
+
+void MainDocument::let_workers_go() {
+    desktop_.close_gate();
+    Worker::stop_all(time_for_the_workers);
 }
 
 void MainDocument::Start_MultiThread() {

@@ -25,14 +25,23 @@ inline constexpr const char* g_DelPreVerOfApk =
     "Deleting the old version of the application on your phone...";
 
 class Summary_Reader;
+class Unix_Signals;
+class Usb_Monitor;
+
+/// Ctrl-C has been pressed: says so and ends the program at once, with status 0 and without a last
+/// request to the agent. User-interface thread.
+[[noreturn]] void SignalHandler(int number);
 
 /// Owns the device session and the state of the main window. Everything here belongs to the
 /// user-interface thread unless it says otherwise; what an attempt's worker changes on the window
 /// is posted and so happens in the worker's order.
 class MainDocument : public Main_Window, public Window_Outlets, public Adb_Wrappers {
   public:
-    /// `directory` is where the tool and the agent's package are looked for.
-    explicit MainDocument(Desktop& desktop, const std::string& directory = executable_directory());
+    /// `directory` is where the tool and the agent's package are looked for. `usb` outlives the
+    /// document; a phone that is there already starts the first attempt. Without it phones are
+    /// looked for by Refresh alone.
+    explicit MainDocument(Desktop& desktop, const std::string& directory = executable_directory(),
+                          Usb_Monitor* usb = nullptr);
     ~MainDocument() override;
 
     // --- the window -------------------------------------------------------------------------
@@ -43,6 +52,8 @@ class MainDocument : public Main_Window, public Window_Outlets, public Adb_Wrapp
     /// the agent never answers. A worker that something outside does not let go may still run then:
     /// the process must end without waiting for it.
     void windowWillClose();
+    /// Interrupts the workers and gives them a moment to tidy up. Nothing is posted any more.
+    void let_workers_go();
 
     // --- connection -------------------------------------------------------------------------
 
@@ -51,6 +62,8 @@ class MainDocument : public Main_Window, public Window_Outlets, public Adb_Wrapp
     /// Starts an attempt unless one is running.
     void refresh_to_do_thread();
     void OnBT_Refresh();
+    /// Watches for phones that come and go, and for Ctrl-C. False when the bus cannot be seen.
+    bool CheckDeviceExist();
     /// A phone of the watched kind has been plugged in, or pulled out.
     void add_device(const char* name);
     void remove_device(const std::string& name);
@@ -147,6 +160,8 @@ class MainDocument : public Main_Window, public Window_Outlets, public Adb_Wrapp
 
     Desktop& desktop_;
     Pane_Loads pane_loads_;
+    Usb_Monitor* usb_;
+    std::unique_ptr<Unix_Signals> interrupt_;
 };
 
 }  // namespace velk

@@ -10,12 +10,13 @@
 
 #include "base/trace.h"
 #include "session/main_document.h"
+#include "session/usb_monitor.h"
 #include "shell/look.h"
 #include "shell/options.h"
 #include "shell/qt_desktop.h"
 #include "shell/tour.h"
-#include "shell/unix_signals.h"
 #include "shell/velk_window.h"
+#include "ui/unix_signals.h"
 #include "ui/worker.h"
 #include "version.h"
 
@@ -30,9 +31,10 @@ int run(const velk::Options& options) {
     QApplication::setQuitOnLastWindowClosed(false);  // the document ends the program
     const velk::Look_Keeper look;
     velk::Qt_Desktop desktop;
-    velk::MainDocument document(desktop);
+    velk::Usb_Monitor usb(desktop);
+    velk::MainDocument document(desktop, velk::executable_directory(), &usb);
     velk::Velk_Window window(document, desktop);
-    const velk::Unix_Signals ending([&window] { window.close(); });
+    const velk::Unix_Signals ending(desktop, {SIGTERM, SIGHUP}, [&window](int) { window.close(); });
     std::unique_ptr<velk::Tour> tour;
     if (options.tour.empty())
         window.show();

@@ -3,6 +3,7 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QEvent>
+#include <QSocketNotifier>
 #include <QWindow>
 #include <algorithm>
 
@@ -91,6 +92,16 @@ void Qt_Desktop::drop_boxes() {
             if (before->isVisible()) before->reject();
         box->reject();
     }
+}
+
+// It may be given up by the very closure that it calls: it is silent at once and goes later.
+Desktop::Watch Qt_Desktop::watch(int descriptor, std::function<void()> readable) {
+    auto* const notifier = new QSocketNotifier(descriptor, QSocketNotifier::Read, this);
+    connect(notifier, &QSocketNotifier::activated, this, std::move(readable));
+    return {notifier, [](QSocketNotifier* ended) {
+                ended->setEnabled(false);
+                ended->deleteLater();
+            }};
 }
 
 void Qt_Desktop::beep() {

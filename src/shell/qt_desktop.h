@@ -27,6 +27,7 @@ class Qt_Desktop : public QObject, public Desktop {
 
     void open_alert(const Alert& alert, std::function<void(int)> answered) override;
     void open_file_panel(const File_Panel& panel, std::function<void(std::string)> chosen) override;
+    Watch watch(int descriptor, std::function<void()> readable) override;
     void beep() override;
     bool end_editing() override;
     void terminate() override;

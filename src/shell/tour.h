@@ -55,6 +55,7 @@ class Tour : public QObject {
     bool lists_all_contacts() const;
 
     // What a person would do.
+    void start_attempt();
     void click(const char* name);
     void select_first_row(const Section& section);
     void close_dialog();

@@ -37,8 +37,7 @@ std::string small_letters(std::string text) {
 }  // namespace
 
 void Tour::plan() {
-    stops_.push_back(
-        {"connecting", [this] { click("OnBT_Refresh"); }, [] { return the_points_run(); }});
+    stops_.push_back({"connecting", [this] { start_attempt(); }, [] { return the_points_run(); }});
     stops_.push_back({"connected", {}, [this] { return attempt_has_ended(); }});
     stops_.push_back({"summary", [this] { click("m_BT_MyAndroid"); },
                       [this] { return shows(nullptr); },
@@ -150,6 +149,11 @@ bool Tour::lists_all_contacts() const {
 
 bool Tour::shows(const MainViewController* view) const {
     return document_.m_Control_Box1.view() == view;
+}
+
+// A phone on the cable may have started an attempt already.
+void Tour::start_attempt() {
+    if (g_can_click_refresh) click("OnBT_Refresh");
 }
 
 bool Tour::attempt_has_ended() {

@@ -78,6 +78,12 @@ class Desktop {
     void take_input(bool takes);
     bool takes_input() const { return takes_input_; }
 
+    /// What watches a descriptor, as long as it is kept.
+    using Watch = std::shared_ptr<void>;
+    /// Calls `readable` whenever the descriptor has something to read, which it must take. The
+    /// descriptor stays open and the desktop lives until the watch has gone.
+    [[nodiscard]] virtual Watch watch(int descriptor, std::function<void()> readable) = 0;
+
     virtual void beep() = 0;
 
     /// Asks an editor that is open in the window to finish. False when it will not.

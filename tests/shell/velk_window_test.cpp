@@ -9,8 +9,8 @@
 #include <QTimer>
 #include <csignal>
 
-#include "shell/unix_signals.h"
 #include "ui/program_wide.h"
+#include "ui/unix_signals.h"
 #include "ui/worker.h"
 #include "window_test.h"
 
@@ -81,7 +81,7 @@ TEST_F(Velk_Window_Test, is_gone_from_the_screen_at_once_and_ends_in_time_while_
 TEST_F(Velk_Window_Test, closes_when_the_system_asks_the_program_to_end) {
     for (const int number : {SIGTERM, SIGHUP}) {
         int asked = 0;
-        const Unix_Signals ending([&] { ++asked; });
+        const Unix_Signals ending(open.desktop, {number}, [&](int) { ++asked; });
         std::raise(number);
         EXPECT_TRUE(wait_until([&] { return asked == 1; }));
     }

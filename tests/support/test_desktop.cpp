@@ -1,6 +1,7 @@
 #include "support/test_desktop.h"
 
 #include <gtest/gtest.h>
+#include <poll.h>
 
 #include <algorithm>
 #include <chrono>
@@ -42,7 +43,15 @@ bool Test_Desktop::wait_for_wake() {
 }
 
 void Test_Desktop::pump() {
-    while (wait_for_wake()) run_turn();
+    while (serve()) {
+    }
+}
+
+bool Test_Desktop::serve() {
+    const bool served = serve_watched();
+    const bool woken = wait_for_wake();
+    if (woken) run_turn();
+    return served || woken;
 }
 
 bool Test_Desktop::pump_until(const std::function<bool()>& condition) {
@@ -52,9 +61,28 @@ bool Test_Desktop::pump_until(const std::function<bool()>& condition) {
             ADD_FAILURE() << "what the test waits for does not come";
             return false;
         }
-        if (wait_for_wake()) run_turn();
+        serve();
     }
     return true;
+}
+
+Desktop::Watch Test_Desktop::watch(int descriptor, std::function<void()> readable) {
+    const auto watched = std::make_shared<Watched>(Watched{descriptor, std::move(readable)});
+    watched_.emplace_back(watched);
+    return watched;
+}
+
+bool Test_Desktop::serve_watched() {
+    std::erase_if(watched_, [](const auto& watched) { return watched.expired(); });
+    bool served = false;
+    for (const auto& each : std::vector(watched_)) {
+        const auto watched = each.lock();
+        pollfd polled{watched ? watched->descriptor : -1, POLLIN, 0};
+        if (poll(&polled, 1, 0) <= 0) continue;
+        watched->readable();
+        served = true;
+    }
+    return served;
 }
 
 void Test_Desktop::finish_work() {

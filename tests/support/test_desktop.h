@@ -64,6 +64,7 @@ class Test_Desktop : public Desktop {
     bool sleep(double seconds) override;
     void open_alert(const Alert& alert, std::function<void(int)> answered) override;
     void open_file_panel(const File_Panel& panel, std::function<void(std::string)> chosen) override;
+    Watch watch(int descriptor, std::function<void()> readable) override;
     void beep() override { note("beep"); }
     bool end_editing() override { return editing_ends; }
     void terminate() override;
@@ -77,11 +78,20 @@ class Test_Desktop : public Desktop {
     static constexpr int held = -1;
 
     void note(const std::string& text);
+    /// One turn of the loop; true when there was something to do.
+    bool serve();
     bool wait_for_wake();
+    /// Calls for each watched descriptor that is readable; true when there was one.
+    bool serve_watched();
 
     std::mutex mutex_;
     std::condition_variable wake_up_;
     bool woken_ = false;
+    struct Watched {
+        int descriptor;
+        std::function<void()> readable;
+    };
+    std::vector<std::weak_ptr<const Watched>> watched_;
 
     std::deque<int> answers_;
     std::function<void(int)> open_;
