@@ -57,10 +57,14 @@ int run_plainly(const std::string& tool, const Command_Line& call) {
 }
 
 int run_devices(const std::string& tool, const Command_Line& call) {
-    std::string list;
-    const int status = run_child({.words = with_tool(tool, call.words()), .shares_input = true},
-                                 [&](std::string_view piece) { list += piece; });
-    print(stdout, older_device_list(list));
+    std::string said;
+    const int status = run_child(
+        {.words = with_tool(tool, call.words()), .shares_input = true, .captures_errors = true},
+        [&](std::string_view piece) { said += piece; });
+    const std::size_t list = start_of_device_list(said);
+    const std::string complaints = said.substr(0, list);
+    print(stderr, complaints);
+    print(stdout, version_complaint(complaints) + older_device_list(said.substr(list)));
     return status;
 }
 

@@ -23,6 +23,19 @@ std::string older_device_list(std::string_view output) {
     return list;
 }
 
+std::size_t start_of_device_list(std::string_view said) {
+    const std::size_t header = said.find("List of devices");
+    return header == std::string_view::npos ? said.size() : header;
+}
+
+std::string version_complaint(std::string_view said) {
+    const std::size_t complaint = said.find("doesn't match this client");
+    if (complaint == std::string_view::npos) return {};
+    const std::size_t before = said.rfind('\n', complaint);
+    const std::size_t start = before == std::string_view::npos ? 0 : before + 1;
+    return std::string(said.substr(start, said.find('\n', complaint) - start)) + "\n";
+}
+
 bool means_a_folder(std::string_view phone_path) {
     const std::size_t last = phone_path.find_last_not_of('/');
     if (last == std::string_view::npos) return false;  // the root is there

@@ -11,6 +11,14 @@ namespace velk {
 /// the word "device", which would make the phone look usable.
 std::string older_device_list(std::string_view output);
 
+/// Where the list of devices begins in what the tool said in its order, its complaints included;
+/// the end when there is none.
+std::size_t start_of_device_list(std::string_view said);
+
+/// The line in which the tool complains that another version of it holds the server's port; empty
+/// when it does not.
+std::string version_complaint(std::string_view said);
+
 /// True when a path on the phone is meant as a folder: its last component has no extension.
 bool means_a_folder(std::string_view phone_path);
 

@@ -88,6 +88,7 @@ void MainDocument::do_all_thing_for_thread() {
         return adb_devices();
     }();
     log_line("%s", output.c_str());
+    on_window([this, output] { lookout_.adb_has_answered(output); });
     const std::size_t attached = attached_position(output);
     if (attached == std::string::npos) return;
     if (!lists_a_device(output, attached)) {

@@ -26,7 +26,10 @@ constexpr double seconds_of_the_timer = 0.2;
 }  // namespace
 
 MainDocument::MainDocument(Desktop& desktop, const std::string& directory, Usb_Monitor* usb)
-    : Adb_Wrappers(desktop, directory), desktop_(desktop), usb_(usb) {
+    : Adb_Wrappers(desktop, directory),
+      desktop_(desktop),
+      lookout_(desktop, usb, directory, [this](const std::string& words) { say_trouble(words); }),
+      usb_(usb) {
     g_window = this;
     g_device = 100;
     m_LB_ps.set_text("Loading......");

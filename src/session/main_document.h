@@ -9,6 +9,7 @@
 
 #include "bridge/adb_wrappers.h"
 #include "session/pane_loads.h"
+#include "session/trouble_lookout.h"
 #include "session/views.h"
 #include "session/window_outlets.h"
 #include "ui/desktop.h"
@@ -153,6 +154,9 @@ class MainDocument : public Main_Window, public Window_Outlets, public Adb_Wrapp
     bool may_show_media() const;
     void show_section(int id);
     void show_trouble(int id);
+    void look_for_trouble();
+    bool shows_trouble() const;
+    void say_trouble(const std::string& sentence);
 
     /// Does this on the user-interface thread: at once there, posted in order from a worker.
     void on_window(Desktop::Closure change) { desktop_.perform(std::move(change)); }
@@ -160,6 +164,7 @@ class MainDocument : public Main_Window, public Window_Outlets, public Adb_Wrapp
 
     Desktop& desktop_;
     Pane_Loads pane_loads_;
+    Trouble_Lookout lookout_;
     Usb_Monitor* usb_;
     std::unique_ptr<Unix_Signals> interrupt_;
 };

@@ -1,5 +1,5 @@
-// The two pages for a phone that is not reached: what is wrong in one sentence, then the next
-// steps.
+// The two pages for a phone that is not reached: what is wrong in one sentence, what Velk sees
+// right now, then the steps that help in general.
 #include <QFontDatabase>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -122,9 +122,19 @@ QWidget* steps_beside_picture(const Steps& steps, const char* picture) {
     return scrolled(row);
 }
 
-/// The sentence and the button stay in sight; the steps scroll when the window is small.
-QWidget* trouble_page(QLabel* sentence, QPushButton* refresh, QWidget* steps) {
+QLabel* finding_of(Trouble_View& view, const Window_Parts& parts) {
+    QLabel* const finding = text_of({});
+    finding->setProperty("finding", true);
+    finding->setAccessibleDescription(QStringLiteral("What Velk sees now"));
+    bind_text(parts.binding, view.m_LB_Trouble, finding);
+    return finding;
+}
+
+/// The sentences and the button stay in sight; the steps scroll when the window is small.
+QWidget* trouble_page(Trouble_View& view, const Window_Parts& parts, QLabel* sentence,
+                      QWidget* steps) {
     auto* const page = new QWidget;
+    QPushButton* const refresh = refresh_button(parts, [&view] { view.OnBT_Refresh(); });
     refresh->setObjectName(QStringLiteral("OnBT_Refresh"));
     sentence->setFont(scaled_font(1.45, true));
     auto* const top = new QHBoxLayout;
@@ -135,6 +145,7 @@ QWidget* trouble_page(QLabel* sentence, QPushButton* refresh, QWidget* steps) {
     column->setContentsMargins(2 * large_space, large_space, 2 * large_space, space_between);
     column->setSpacing(large_space);
     column->addLayout(top);
+    column->addWidget(finding_of(view, parts));
     column->addWidget(steps, 1);
     return page;
 }
@@ -144,14 +155,13 @@ QWidget* trouble_page(QLabel* sentence, QPushButton* refresh, QWidget* steps) {
 QWidget* allow_pc_page(View_AllowPCConnect& view, const Window_Parts& parts) {
     auto* const sentence = new QLabel;
     bind_text(parts.binding, view.m_LB_Tips, sentence);
-    return trouble_page(sentence, refresh_button(parts, [&view] { view.OnBT_Refresh(); }),
-                        steps_beside_picture(steps_to_allow, "allow_pc"));
+    return trouble_page(view, parts, sentence, steps_beside_picture(steps_to_allow, "allow_pc"));
 }
 
 QWidget* usb_debugging_page(View_SettingPhoneUSB& view, const Window_Parts& parts) {
     auto* const sentence =
         text_of(QStringLiteral("No phone was found that this computer may talk to."));
-    return trouble_page(sentence, refresh_button(parts, [&view] { view.OnBT_Refresh(); }),
+    return trouble_page(view, parts, sentence,
                         steps_beside_picture(steps_to_debugging, "usb_debugging"));
 }
 

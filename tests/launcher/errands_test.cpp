@@ -24,6 +24,8 @@ const std::string list =
     "List of devices attached\nS1\tno permissions (udev rules wrong?); see [tools]\nS2\tattached\n";
 const std::string older_list =
     "List of devices attached \nS1\tno permissions (udev rules wrong?)\nS2\tattached\n";
+const std::string other_version =
+    "adb server version (32) doesn't match this client (41); killing...\n";
 const std::string gone = "error: device 'S1' not found\n";
 
 const Errand errands[] = {
@@ -31,6 +33,10 @@ const Errand errands[] = {
      {{"devices", {list, "* started\n", 0, leaves_a_server}}},
      {older_list, "* started\n", 0},
      {"-P 5038 devices"}},
+    {{"devices"},
+     {{"devices", {list, "* a\n" + other_version + "* b\n"}}},
+     {other_version + older_list, "* a\n" + other_version + "* b\n", 0},
+     {"devices"}},
     {{"devices"}, {{"devices", {older_list}}}, {older_list, "", 0}, {"devices"}},
     {{"-s", "push", "pull", "/a b", "/tmp/x"},
      {{"pull", {"1 file pulled.\n"}}},

@@ -177,7 +177,7 @@ TEST_F(Usb_Monitor_Test, keeps_nothing_of_a_thousand_phones_that_have_gone) {
     start_without_a_phone();
     const auto cycle = [this] {
         const std::string phone = bus.plug({});
-        desktop.finish_work();
+        desktop.pump_until([this] { return document->m_device_checked == 1; });
         bus.unplug(phone);
         desktop.pump_until([this] { return document->m_device_checked == 0; });
     };
@@ -209,6 +209,20 @@ TEST_F(Usb_Monitor_Test, sees_which_phones_of_any_maker_can_be_debugged_and_used
     for (const Usb_Phone& found : usb.phones())
         seen.push_back(found.name + (found.shows_debugging ? " shows debugging" : ""));
     EXPECT_THAT(seen, ElementsAre("Camera", "Fern shows debugging", "Moss"));
+}
+
+TEST_F(Usb_Monitor_Test, says_anew_what_stands_in_the_way_when_the_bus_changes) {
+    std::ofstream(adb.directory() + "/" + g_apk_install_file) << "package";
+    start_without_a_phone();
+    document->OnBT_Refresh();
+    desktop.finish_work();
+    const auto& view = dynamic_cast<Trouble_View&>(*document->m_views[DEFINE_VIEW_SettingPhoneUSB]);
+    EXPECT_THAT(view.m_LB_Trouble.text(), HasSubstr("no phone on the USB bus"));
+    const std::string fern = bus.plug({.product = "Fern", .vendor_id = "18d1"});
+    bus.add_interface(fern, "ff4201", "");
+    bus.say(fern, "bind");
+    desktop.pump_until([&] { return view.m_LB_Trouble.text().starts_with("There") == false; });
+    EXPECT_THAT(view.m_LB_Trouble.text(), HasSubstr("70-velk.rules"));
 }
 
 TEST_F(Usb_Monitor_Test, ends_with_status_0_on_ctrl_c) {

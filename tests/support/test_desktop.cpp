@@ -36,9 +36,9 @@ void Test_Desktop::wake() {
     wake_up_.notify_all();
 }
 
-bool Test_Desktop::wait_for_wake() {
+bool Test_Desktop::wait_for_wake(bool waits) {
     std::unique_lock lock(mutex_);
-    wake_up_.wait_for(lock, look_again, [this] { return woken_; });
+    if (waits) wake_up_.wait_for(lock, look_again, [this] { return woken_; });
     return std::exchange(woken_, false);
 }
 
@@ -49,7 +49,7 @@ void Test_Desktop::pump() {
 
 bool Test_Desktop::serve() {
     const bool served = serve_watched();
-    const bool woken = wait_for_wake();
+    const bool woken = wait_for_wake(!served);
     if (woken) run_turn();
     return served || woken;
 }

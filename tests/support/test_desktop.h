@@ -80,7 +80,7 @@ class Test_Desktop : public Desktop {
     void note(const std::string& text);
     /// One turn of the loop; true when there was something to do.
     bool serve();
-    bool wait_for_wake();
+    bool wait_for_wake(bool waits);
     /// Calls for each watched descriptor that is readable; true when there was one.
     bool serve_watched();
 
