@@ -91,19 +91,29 @@ std::string_view control_help() {
            "  help            print this list\n";
 }
 
-int tell_phone(const std::string& path, const std::string& line) {
+std::optional<std::string> ask_phone(const std::string& path, const std::string& line) {
     const Owned_Descriptor phone = connect_unix(path);
-    if (!phone || !write_all(phone.number(), line + "\n")) {
-        std::fprintf(stderr, "demo_phone: %s: %s\n", path.c_str(), std::strerror(errno));
-        return 1;
-    }
+    if (!phone || !write_all(phone.number(), line + "\n")) return std::nullopt;
     shutdown(phone.number(), SHUT_WR);
     std::string answer;
     char bytes[4096];
     for (ssize_t count; (count = recv(phone.number(), bytes, sizeof bytes, 0)) > 0;)
         answer.append(bytes, static_cast<std::size_t>(count));
-    const bool good = answer == ok || answer.ends_with("\n" + ok);
-    std::fputs(answer.c_str(), good ? stdout : stderr);
+    return answer;
+}
+
+bool is_good(std::string_view answer) {
+    return answer == ok || answer.ends_with("\n" + ok);
+}
+
+int tell_phone(const std::string& path, const std::string& line) {
+    const auto answer = ask_phone(path, line);
+    if (!answer) {
+        std::fprintf(stderr, "demo_phone: %s: %s\n", path.c_str(), std::strerror(errno));
+        return 1;
+    }
+    const bool good = is_good(*answer);
+    std::fputs(answer->c_str(), good ? stdout : stderr);
     return good ? 0 : 1;
 }
 

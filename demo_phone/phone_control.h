@@ -1,6 +1,7 @@
 // The words with which a running phone is steered.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -26,6 +27,13 @@ std::string control(Demo_Phone& phone, Phone_Cable& cable, std::string_view line
 
 /// The lines of --help about the commands.
 std::string_view control_help();
+
+/// Sends `line` to the phone that listens on the socket `path`; its answer, nothing when no phone
+/// can be reached.
+std::optional<std::string> ask_phone(const std::string& path, const std::string& line);
+
+/// True when the answer says that the command was carried out.
+bool is_good(std::string_view answer);
 
 /// Sends `line` to the phone that listens on the socket `path` and prints its answer: the exit
 /// status, 0 when the answer was "ok".
