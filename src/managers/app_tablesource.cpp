@@ -45,7 +45,8 @@ App_TableSource::App_TableSource(Main_Window& window)
          .caption = "Install",
          .icon = "install",
          .run = [this] { OnBT_App_Install(); },
-         .guard = &g_can_click_app_install},
+         .guard = &g_can_click_app_install,
+         .keys = keys_of_add},
         {.name = "OnBT_App_Uninstall",
          .caption = "Uninstall",
          .icon = "uninstall",
@@ -56,7 +57,8 @@ App_TableSource::App_TableSource(Main_Window& window)
          .caption = "Refresh",
          .icon = "refresh",
          .run = [this] { OnBT_Refresh(); },
-         .guard = &g_can_click_load},
+         .guard = &g_can_click_load,
+         .keys = keys_of_refresh},
     });
     Load();
 }

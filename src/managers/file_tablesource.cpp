@@ -33,12 +33,20 @@ File_TableSource::File_TableSource(Main_Window& window, const File_Pane& pane, T
     take_drops({.take = [this](std::vector<std::string> paths) { Add_Files(std::move(paths)); },
                 .hint = format("Drop files here to add them to the %s on your phone.", pane.files),
                 .guard = &pane.may_add});
+    const auto adds = [this](bool files) {
+        return [this, files] {
+            quiet.tell_reason("");
+            choose_and_add(files, !files);
+        };
+    };
+    section.adding = {.file = adds(true), .folder = adds(false), .guard = &pane.may_add};
     set_commands({
         {.name = "OnBT_Add",
          .caption = "Add",
          .icon = "add",
          .run = [this] { OnBT_Add(); },
-         .guard = &pane.may_add},
+         .guard = &pane.may_add,
+         .keys = keys_of_add},
         {.name = "OnBT_Delete",
          .caption = "Delete",
          .icon = "delete",
@@ -49,12 +57,14 @@ File_TableSource::File_TableSource(Main_Window& window, const File_Pane& pane, T
          .caption = "Export",
          .icon = "export",
          .run = [this] { choose_folder_and_export(); },
-         .guard = &pane.may_export},
+         .guard = &pane.may_export,
+         .keys = keys_of_export},
         {.name = "OnBT_Refresh",
          .caption = "Refresh",
          .icon = "refresh",
          .run = [this] { OnBT_Refresh(); },
-         .guard = &pane.may_load},
+         .guard = &pane.may_load,
+         .keys = keys_of_refresh},
     });
 }
 
@@ -74,7 +84,14 @@ void File_TableSource::reload_after_a_change() {
 // --- add --------------------------------------------------------------------------------------
 
 void File_TableSource::OnBT_Add() {
-    const File_Panel panel{.message = "select a file", .prompt = "OK", .folders = true};
+    choose_and_add(true, true);
+}
+
+void File_TableSource::choose_and_add(bool files, bool folders) {
+    const File_Panel panel{.message = files ? "select a file" : "Select a folder",
+                           .prompt = "OK",
+                           .files = files,
+                           .folders = folders};
     // A person who cancels adds the empty path, and reads that it failed.
     desktop().open_file_panel(panel, [this](const std::string& path) { Add_File_To_Phone(path); });
 }

@@ -71,6 +71,8 @@ class File_TableSource : public Table_Source {
     ~File_TableSource() = default;
 
     void start_loading();
+    /// Asks for a file, a folder, or either, and adds it.
+    void choose_and_add(bool files, bool folders);
     /// Asks for a folder and copies the selected files there, unless that is under way.
     void choose_folder_and_export();
     const File_Pane& pane() const { return pane_; }

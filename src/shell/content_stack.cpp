@@ -11,6 +11,10 @@ Content_Stack::Content_Stack(const Window_Parts& parts) : parts_(parts) {
     parts.binding.bind(box, this, [this] { show_view(); });
 }
 
+QWidget* Content_Stack::shown_page() const {
+    return parts_.document.m_Control_Box1.view() ? currentWidget() : nullptr;
+}
+
 void Content_Stack::show_view() {
     const Content_Box& box = parts_.document.m_Control_Box1;
     MainViewController* const view = box.view();

@@ -17,6 +17,8 @@ class Content_Stack : public QStackedWidget {
   public:
     explicit Content_Stack(const Window_Parts& parts);
 
+    /// The page that is seen now, or none.
+    QWidget* shown_page() const;
     /// Called when a page has been made.
     void on_new_page(std::function<void()> tell) { new_page_ = std::move(tell); }
 

@@ -82,13 +82,23 @@ Look Look::now() {
 
 QString Look::fill_in(QString style_sheet) const {
     const std::pair<const char*, QColor> places[] = {
-        {"window", window},       {"card", card},
-        {"stripe", stripe},       {"text", text},
-        {"muted", muted},         {"disabled", disabled},
-        {"line", line},           {"edge", edge},
-        {"accent", accent},       {"pressed", pressed},
-        {"on_accent", on_accent}, {"accent_hover", accent_hover},
-        {"toolbar", toolbar},     {"accent_text", accent_text}};
+        {"window", window},
+        {"card", card},
+        {"stripe", stripe},
+        {"text", text},
+        {"muted", muted},
+        {"disabled", disabled},
+        {"line", line},
+        {"edge", edge},
+        {"accent", accent},
+        {"pressed", pressed},
+        {"on_accent", on_accent},
+        {"accent_hover", accent_hover},
+        {"toolbar", toolbar},
+        {"accent_text", accent_text},
+        {"toolbar_text", toolbar_text},
+        {"toolbar_hover", toolbar_hover},
+        {"toolbar_muted", mix(toolbar_text, toolbar, 0.5)}};
     for (const auto& [name, colour] : places)
         style_sheet.replace(QStringLiteral("@%1@").arg(name), colour.name());
     return style_sheet;

@@ -7,10 +7,12 @@
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
+#include <optional>
 
 #include "base/trace.h"
 #include "session/main_document.h"
 #include "session/usb_monitor.h"
+#include "shell/app_delegate.h"
 #include "shell/look.h"
 #include "shell/options.h"
 #include "shell/qt_desktop.h"
@@ -27,13 +29,30 @@ int print(const velk::Answer& answer) {
     return answer.status;
 }
 
-int run(const velk::Options& options) {
-    QApplication::setQuitOnLastWindowClosed(false);  // the document ends the program
+/// The status to end with, when this is not to be the one that runs.
+std::optional<int> leave_it_to_another(velk::Only_One& only_one, const velk::Wish& wish) {
+    using Answer = velk::Only_One::Answer;
+    const Answer answer = only_one.ask(wish);
+    if (answer == Answer::is_first) return std::nullopt;
+    if (answer == Answer::first_has_come) return 0;
+    std::fputs("velk: Velk is running already, but does not answer.\n", stderr);
+    return 1;
+}
+
+int run(const velk::Options& options, const QByteArray& token) {
+    QApplication::setQuitOnLastWindowClosed(false);  // the delegate is asked
+    // A tour is nobody's window: it neither calls another Velk nor is called.
+    const QString folder = options.tour.empty() ? velk::runtime_folder() : QString();
+    velk::Only_One only_one(folder);
+    if (const auto status = leave_it_to_another(only_one, {options.connect, token})) return *status;
     const velk::Look_Keeper look;
     velk::Qt_Desktop desktop;
     velk::Usb_Monitor usb(desktop);
     velk::MainDocument document(desktop, velk::executable_directory(), &usb);
     velk::Velk_Window window(document, desktop);
+    velk::DhAppDelegate delegate(document, window, desktop,
+                                 {QStringLiteral(":/option.cfg"), folder});
+    delegate.applicationDidFinishLaunching();
     const velk::Unix_Signals ending(desktop, {SIGTERM, SIGHUP}, [&window](int) { window.close(); });
     std::unique_ptr<velk::Tour> tour;
     if (options.tour.empty())
@@ -59,6 +78,7 @@ int main(int count, char** arguments) {
     std::signal(SIGPIPE, SIG_IGN);  // a connection that the other side closed must not kill us
     if (!isatty(STDOUT_FILENO)) std::setvbuf(stdout, nullptr, _IOFBF, 1 << 16);
     if (const auto answer = velk::answer_without_display(count, arguments)) return print(*answer);
+    const QByteArray token = qgetenv("XDG_ACTIVATION_TOKEN");  // before the toolkit takes it
     QApplication application(count, arguments);
     // Names are put in the order of the person's language; sizes keep their point everywhere.
     std::setlocale(LC_ALL, "");
@@ -67,7 +87,7 @@ int main(int count, char** arguments) {
     QApplication::setApplicationVersion(velk::g_version);
     QApplication::setDesktopFileName("velk");
     const velk::Options options = velk::options_of(count, arguments);
-    const int status = options.wrong ? print(*options.wrong) : run(options);
+    const int status = options.wrong ? print(*options.wrong) : run(options, token);
     velk::flush_trace();
     return status;
 }

@@ -25,6 +25,9 @@ class Qt_Desktop : public QObject, public Desktop {
     /// boxes that still come are answered as if the person had cancelled them.
     void drop_boxes();
 
+    /// A box of the shell's own: it goes like the others.
+    void keep(QDialog* box);
+
     void open_alert(const Alert& alert, std::function<void(int)> answered) override;
     void open_file_panel(const File_Panel& panel, std::function<void(std::string)> chosen) override;
     Watch watch(int descriptor, std::function<void()> readable) override;
@@ -45,7 +48,6 @@ class Qt_Desktop : public QObject, public Desktop {
   private:
     /// What stands foremost: the box that was opened last, else the window.
     QWidget* front() const;
-    void keep(QDialog* box);
     /// The second of two quick clicks may give the keys back to a window behind a box.
     void lead_keys_to_front(const QWindow* focused) const;
 

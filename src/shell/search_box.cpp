@@ -18,7 +18,7 @@ constexpr int less_space_behind_the_icon = -5;
 }  // namespace
 
 Search_Box::Search_Box(Row_Table& table, const QString& looks_for, QWidget* parent)
-    : QLineEdit(parent), table_(table) {
+    : QLineEdit(parent), table_(table), find_(new QAction(QStringLiteral("Find"), this)) {
     setObjectName(table.objectName() + QStringLiteral("_search"));
     setAccessibleName(QStringLiteral("Search"));
     setPlaceholderText(looks_for.isEmpty() ? QStringLiteral("Search") : looks_for);
@@ -41,8 +41,11 @@ Search_Box::Search_Box(Row_Table& table, const QString& looks_for, QWidget* pare
         escape->setEnabled(!typed.isEmpty());
         table.search(typed);
     });
-    // A page that is not shown does not listen.
-    connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, this, [this] {
+    // A box that is not shown does not listen.
+    find_->setObjectName(QStringLiteral("find"));
+    find_->setShortcut(QKeySequence::Find);
+    QWidget::addAction(find_);
+    connect(find_, &QAction::triggered, this, [this] {
         setFocus(Qt::ShortcutFocusReason);
         selectAll();
     });

@@ -15,6 +15,9 @@ class Search_Box : public QLineEdit {
     /// `looks_for` stands in the box while it is empty. The table must have its name.
     Search_Box(Row_Table& table, const QString& looks_for, QWidget* parent = nullptr);
 
+    /// Leads into the box; its keys work wherever the box is shown.
+    QAction* find() const { return find_; }
+
   protected:
     void keyPressEvent(QKeyEvent* event) override;
 
@@ -22,6 +25,7 @@ class Search_Box : public QLineEdit {
     void lead_into_the_table();
 
     Row_Table& table_;
+    QAction* find_;
 };
 
 }  // namespace velk

@@ -1,9 +1,9 @@
 #include "shell/section_page.h"
 
+#include <QAction>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QShortcut>
 #include <QSplitter>
 #include <QStackedWidget>
 
@@ -34,6 +34,8 @@ Section_Page::Section_Page(const Section& section, const Window_Parts& parts)
     table_->setObjectName(shown(section.table->name()));
     table_->setAccessibleName(shown(section.title));
     if (section.pictures.path_column) make_pictures();
+    for (const Command& command : section.commands) add_menu_entry(command);
+    add_separator_to_menu();
     auto* const column = new QVBoxLayout(this);
     column->setContentsMargins(large_space, space_between, large_space, small_space);
     column->setSpacing(space_between_lines);
@@ -52,27 +54,50 @@ QLayout* Section_Page::title_row() {
     row->addWidget(title);
     row->addStretch(1);
     if (pictures_) row->addLayout(view_switch());
-    row->addWidget(new Search_Box(*table_, shown(section_.search_text), this), 1);
+    auto* const search = new Search_Box(*table_, shown(section_.search_text), this);
+    menu_entries_.append(search->find());
+    row->addWidget(search, 1);
     return row;
 }
 
 QLayout* Section_Page::command_row() {
     auto* const row = new QHBoxLayout;
     set_tight(row, small_space);
-    for (const Command& command : section_.commands) {
-        QPushButton* const button = command_button(command, parts_.guards, this);
-        row->addWidget(button);
-        if (!command.on_delete_key) continue;
-        for (QWidget* const rows :
-             {static_cast<QWidget*>(table_), static_cast<QWidget*>(pictures_)}) {
-            if (!rows) continue;
-            auto* const key =
-                new QShortcut(QKeySequence::Delete, rows, nullptr, nullptr, Qt::WidgetShortcut);
-            connect(key, &QShortcut::activated, button, &QPushButton::click);
-        }
-    }
+    for (const Command& command : section_.commands)
+        row->addWidget(command_button(command, parts_.guards, this));
     row->addStretch();
     return row;
+}
+
+void Section_Page::add_menu_entry(const Command& command) {
+    QAction* const entry = command_action(command, parts_.guards, this);
+    menu_entries_.append(entry);
+    if (!command.on_delete_key) return;
+    // The rows' key: what is typed elsewhere must not delete them.
+    entry->setShortcut(QKeySequence::Delete);
+    entry->setShortcutContext(Qt::WidgetShortcut);
+    table_->addAction(entry);
+    if (pictures_) pictures_->addAction(entry);
+}
+
+void Section_Page::add_separator_to_menu() {
+    auto* const separator = new QAction(this);
+    separator->setSeparator(true);
+    menu_entries_.append(separator);
+}
+
+void Section_Page::add_switch_to_menu(QPushButton* half, const QKeySequence& keys) {
+    auto* const entry = new QAction(half->text(), this);
+    entry->setObjectName(half->objectName());
+    entry->setShortcut(keys);
+    entry->setCheckable(true);
+    entry->setChecked(half->isChecked());
+    menu_entries_.append(entry);
+    connect(half, &QPushButton::toggled, entry, &QAction::setChecked);
+    connect(entry, &QAction::triggered, half, [half, entry] {
+        half->click();
+        entry->setChecked(half->isChecked());  // also when it was down already
+    });
 }
 
 void Section_Page::make_pictures() {
@@ -99,6 +124,9 @@ QLayout* Section_Page::view_switch() {
         both->addWidget(half);
     }
     list->setChecked(true);
+    add_switch_to_menu(list, Qt::CTRL | Qt::Key_L);
+    add_switch_to_menu(pictures, Qt::CTRL | Qt::Key_P);
+    add_separator_to_menu();
     connect(pictures, &QPushButton::toggled, this, &Section_Page::show_pictures);
     return both;
 }

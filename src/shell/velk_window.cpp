@@ -11,6 +11,7 @@
 #include "shell/busy_spinner.h"
 #include "shell/content_stack.h"
 #include "shell/device_strip.h"
+#include "shell/main_menu.h"
 #include "shell/qt_desktop.h"
 #include "shell/summary_page.h"
 #include "shell/text_label.h"
@@ -31,6 +32,7 @@ Velk_Window::Velk_Window(MainDocument& document, Qt_Desktop& desktop)
     setObjectName(QStringLiteral("Velk_Window"));
     setMinimumSize(least_size);
     resize(first_size.boundedTo(screen()->availableSize() - room_of_the_frame));
+    guards_.on_look([this] { emit may_have_changed(); });
     build();
     binding_.bind(document.window_title, this,
                   [this] { setWindowTitle(shown(document_.window_title.text())); });
@@ -57,8 +59,11 @@ void Velk_Window::build() {
     set_tight(main_area, 0);
     main_area->addWidget(content_, 1);
     main_area->addWidget(summary, 1);
+    // Behind the content: when another page comes, the menu looks at what is there already.
+    menu_ = new MainMenu_Main(parts, *content_, this);
     auto* const column = new QVBoxLayout(this);
     set_tight(column, 0);
+    column->setMenuBar(menu_);
     column->addWidget(toolbar);
     column->addWidget(strip);
     column->addLayout(main_area, 1);
@@ -102,6 +107,20 @@ void Velk_Window::set_tab_order() {
             before = control;
         }
     }
+}
+
+void Velk_Window::bring_to_front() {
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    activateWindow();
+}
+
+void Velk_Window::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() != QEvent::WindowStateChange || minimised_ == isMinimized()) return;
+    minimised_ = isMinimized();
+    minimised_ ? emit was_minimised() : emit was_restored();
 }
 
 void Velk_Window::closeEvent(QCloseEvent* event) {

@@ -7,6 +7,7 @@
 namespace velk {
 
 class Content_Stack;
+class MainMenu_Main;
 class Qt_Desktop;
 
 /// The main window: toolbar, the line about the phone, the content box beside the summary, and the
@@ -21,7 +22,19 @@ class Velk_Window : public QWidget {
     /// Shows at once what otherwise shows at the end of the turn.
     void bring_up_to_date();
 
+    MainMenu_Main& menu() { return *menu_; }
+    /// Before all other windows, also from where it was minimised to.
+    void bring_to_front();
+
+  signals:
+    // Whoever has done it: the program, or the desktop.
+    void was_minimised();
+    void was_restored();
+    /// What a person can do now may be something else than before.
+    void may_have_changed();
+
   protected:
+    void changeEvent(QEvent* event) override;
     /// Goes from the screen at once; the document then ends the program.
     void closeEvent(QCloseEvent* event) override;
 
@@ -36,6 +49,8 @@ class Velk_Window : public QWidget {
     Binding binding_;
     Guards guards_;
     Content_Stack* content_ = nullptr;
+    MainMenu_Main* menu_ = nullptr;
+    bool minimised_ = false;
     bool closed_ = false;
 };
 

@@ -1,5 +1,6 @@
 #include "shell/widgets.h"
 
+#include <QAction>
 #include <QBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -145,6 +146,16 @@ QPushButton* command_button(const Command& command, Guards& guards, QWidget* par
     button->setIcon(themed_icon(shown(command.icon)));
     guards.connect_button(button, command.guard, command.run);
     return button;
+}
+
+QAction* command_action(const Command& command, Guards& guards, QWidget* parent) {
+    auto* const action =
+        new QAction(shown(command.caption).replace(u'&', QStringLiteral("&&")), parent);
+    action->setObjectName(shown(command.name));
+    if (command.keys)
+        action->setShortcuts(QKeySequence::listFromString(QString::fromLatin1(command.keys)));
+    guards.connect_action(action, command.guard, command.run);
+    return action;
 }
 
 Text_Label* status_line(Binding& binding, Label& outlet, QWidget* parent) {

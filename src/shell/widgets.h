@@ -11,6 +11,7 @@
 #include "ui/outlets.h"
 
 class QAbstractButton;
+class QAction;
 class QBoxLayout;
 class QLabel;
 class QLineEdit;
@@ -62,6 +63,9 @@ void make_quiet(QLabel* label);
 
 /// The button of a command, without an icon where the command names none.
 QPushButton* command_button(const Command& command, Guards& guards, QWidget* parent);
+
+/// The menu entry of a command, with its keys.
+QAction* command_action(const Command& command, Guards& guards, QWidget* parent);
 
 /// A Refresh button as every page of the connection has one; disabled during an attempt.
 QPushButton* refresh_button(const Window_Parts& parts, std::function<void()> run);

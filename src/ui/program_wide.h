@@ -7,6 +7,7 @@
 // clears it, and reloads the table.
 #pragma once
 
+#include <map>
 #include <string>
 
 #include "ui/command.h"
@@ -65,6 +66,12 @@ inline int g_int_count_photos = 0;
 inline int g_int_count_music = 0;
 inline int g_int_count_videos = 0;
 inline int g_int_count_books = 0;
+
+// The application: set when it starts.
+inline std::map<std::string, std::string> gPageSettingKeyValue;  // of the configuration
+inline std::string kBundleIdentifier;  // names the program's folder among the person's data
+inline std::string kTempInputDir;      // whole paths of two folders in it
+inline std::string kTempOutputDir;
 
 // The look of the toolbar.
 inline constexpr Flag g_toolbar_text_is_white = 1;

@@ -35,6 +35,13 @@ struct Picture_Columns {
     const char* size_column = nullptr;
 };
 
+/// What the File menu can add to a section's files, one panel for each. Empty where nothing can.
+struct Adding {
+    std::function<void()> file = {};
+    std::function<void()> folder = {};
+    const Flag* guard = nullptr;  // nothing is added while this is 0
+};
+
 struct Section {
     std::string title;        // the table's accessible name: "Contacts"
     std::string empty_text;   // what an empty table says it would show
@@ -46,6 +53,7 @@ struct Section {
     Detail detail = {};              // without a text there is no pane
     std::vector<Command> commands;   // left to right
     Dropped_Files drop = {};
+    Adding adding = {};
     Picture_Columns pictures = {};  // the rows can also be shown as pictures
 };
 

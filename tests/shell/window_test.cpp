@@ -13,8 +13,9 @@ namespace velk {
 namespace {
 
 void fail_on_warnings(QtMsgType type, const QMessageLogContext&, const QString& text) {
-    // The platform without a display says so for every window; it has nothing to do with ours.
-    if (text.contains(QStringLiteral("does not support propagateSizeHints"))) return;
+    // The platform without a display says so of every window; it has nothing to do with ours.
+    for (const char* const what : {"propagateSizeHints", "raise"})
+        if (text.contains(QStringLiteral("does not support ") + QLatin1String(what))) return;
     if (type == QtWarningMsg || type == QtCriticalMsg || type == QtFatalMsg)
         ADD_FAILURE() << "the toolkit warns: " << text.toStdString();
 }
@@ -56,6 +57,9 @@ Open_Window::Open_Window() {
     test_application();
     document = std::make_unique<MainDocument>(desktop, "/nowhere");
     window = std::make_unique<Velk_Window>(*document, desktop);
+    delegate = std::make_unique<DhAppDelegate>(
+        *document, *window, desktop, DhAppDelegate::Places{QStringLiteral(":/option.cfg"), {}});
+    window->menu().name_after(QStringLiteral("Velk"));
     window->show();
     EXPECT_TRUE(QTest::qWaitForWindowExposed(window.get()));
 }
@@ -66,6 +70,7 @@ Open_Window::~Open_Window() {
     EXPECT_TRUE(Worker::stop_all(std::chrono::seconds(10)));
     g_connected_adb = 0;
     g_can_click_refresh = g_can_click_contacts_load = g_can_click_loading_animation = 1;
+    delegate.reset();
     window.reset();
     document.reset();
 }

@@ -8,7 +8,9 @@
 #include <memory>
 
 #include "session/main_document.h"
+#include "shell/app_delegate.h"
 #include "shell/look.h"
+#include "shell/main_menu.h"
 #include "shell/qt_desktop.h"
 #include "shell/velk_window.h"
 
@@ -46,6 +48,7 @@ class Open_Window {
     Qt_Desktop desktop;
     std::unique_ptr<MainDocument> document;
     std::unique_ptr<Velk_Window> window;
+    std::unique_ptr<DhAppDelegate> delegate;  // not launched: it has no folders and hears nobody
 };
 
 }  // namespace velk
