@@ -1,7 +1,9 @@
 // One attempt to reach a phone, from the screen's reset to the summary.
+#include "agent/channel.h"
 #include "base/text.h"
 #include "base/trace.h"
 #include "bridge/device_list.h"
+#include "bridge/port_owner.h"
 #include "session/main_document.h"
 #include "ui/program_wide.h"
 #include "ui/worker.h"
@@ -62,10 +64,15 @@ void MainDocument::remove_device(const std::string& name) {
     refresh_ini_ui();
 }
 
+void MainDocument::look_at_port() {
+    show(m_LB_Port, trouble_with_port(agent_port));
+}
+
 // Worker, from here to the end of the file: what it changes on the window is posted in order.
 
 void MainDocument::thread_do_refresh_function() {
     get_adb_full_path();
+    look_at_port();
     do_all_thing_for_thread();
     on_window([this] {
         g_can_click_refresh = 1;

@@ -65,6 +65,9 @@ class MainDocument : public Main_Window, public Window_Outlets, public Adb_Wrapp
     void OnBT_Refresh();
     /// Watches for phones that come and go, and for Ctrl-C. False when the bus cannot be seen.
     bool CheckDeviceExist();
+    /// Looks who has the agent's port, and tells the person when it is not adb. Any thread; see
+    /// trouble_with_port() for how long it takes.
+    void look_at_port();
     /// A phone of the watched kind has been plugged in, or pulled out.
     void add_device(const char* name);
     void remove_device(const std::string& name);

@@ -69,6 +69,8 @@ Look Look::of(const QPalette& palette) {
     look.accent_hover = QColor(0x1d, 0x49, 0xb4);
     look.on_accent = Qt::white;
     look.accent_text = readable(dark ? QColor(0x7d, 0xa9, 0xff) : look.accent, ground);
+    look.warning = dark ? QColor(0x4a, 0x38, 0x10) : QColor(0xff, 0xf1, 0xc9);
+    look.on_warning = dark ? QColor(0xff, 0xe3, 0xa3) : QColor(0x4d, 0x38, 0x00);
     look.pressed = mix(look.card, look.accent, 0.08);
     look.toolbar = dark ? mix(look.window, Qt::black, 0.45) : QColor(0x1e, 0x27, 0x36);
     look.toolbar_hover = mix(look.toolbar, Qt::white, 0.12);
@@ -96,6 +98,8 @@ QString Look::fill_in(QString style_sheet) const {
         {"accent_hover", accent_hover},
         {"toolbar", toolbar},
         {"accent_text", accent_text},
+        {"warning", warning},
+        {"on_warning", on_warning},
         {"toolbar_text", toolbar_text},
         {"toolbar_hover", toolbar_hover},
         {"toolbar_muted", mix(toolbar_text, toolbar, 0.5)}};

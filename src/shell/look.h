@@ -16,6 +16,7 @@ struct Look {
     QColor line, edge;             // between things, and around things that can be pressed
     QColor accent, accent_hover, on_accent;  // a filled control and its text
     QColor accent_text;                      // the accent where it is a line or a text on a ground
+    QColor warning, on_warning;              // the ground of a warning and its text
     QColor pressed;
     QColor toolbar, toolbar_hover, toolbar_text;
 

@@ -54,6 +54,7 @@ int run(const velk::Options& options, const QByteArray& token) {
                                  {QStringLiteral(":/option.cfg"), folder});
     delegate.applicationDidFinishLaunching();
     const velk::Unix_Signals ending(desktop, {SIGTERM, SIGHUP}, [&window](int) { window.close(); });
+    velk::Worker::start("port", [&document] { document.look_at_port(); });
     std::unique_ptr<velk::Tour> tour;
     if (options.tour.empty())
         window.show();

@@ -3,6 +3,7 @@
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QScreen>
 #include <QTimer>
 #include <utility>
@@ -66,8 +67,21 @@ void Velk_Window::build() {
     column->setMenuBar(menu_);
     column->addWidget(toolbar);
     column->addWidget(strip);
+    column->addWidget(port_line());
     column->addLayout(main_area, 1);
     column->addWidget(status_strip());
+}
+
+QWidget* Velk_Window::port_line() {
+    auto* const line = new QLabel(this);
+    line->setAttribute(Qt::WA_StyledBackground);
+    line->setProperty("warning", true);
+    line->setAccessibleDescription(QStringLiteral("Warning"));
+    line->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    Label& trouble = document_.m_LB_Port;
+    bind_text(binding_, trouble, line);
+    binding_.bind(trouble, line, [&trouble, line] { line->setHidden(trouble.text().empty()); });
+    return line;
 }
 
 QWidget* Velk_Window::status_strip() {

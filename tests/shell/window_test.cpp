@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QStyleHints>
 
+#include "managers/app_tablesource.h"
 #include "ui/program_wide.h"
 #include "ui/worker.h"
 
@@ -61,7 +62,7 @@ Open_Window::Open_Window() {
         *document, *window, desktop, DhAppDelegate::Places{QStringLiteral(":/option.cfg"), {}});
     window->menu().name_after(QStringLiteral("Velk"));
     window->show();
-    EXPECT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+    EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
 }
 
 Open_Window::~Open_Window() {
@@ -70,6 +71,7 @@ Open_Window::~Open_Window() {
     EXPECT_TRUE(Worker::stop_all(std::chrono::seconds(10)));
     g_connected_adb = 0;
     g_can_click_refresh = g_can_click_contacts_load = g_can_click_loading_animation = 1;
+    App_TableSource::g_can_click_load = 1;  // its first load may have been cut short
     delegate.reset();
     window.reset();
     document.reset();
