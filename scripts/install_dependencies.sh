@@ -35,8 +35,8 @@ if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
     cat >&2 <<'NEEDED'
 This is not a Debian system, so nothing is installed for you. Velk needs:
   a C++20 compiler (g++ 12 or clang 14, or newer), CMake 3.25 or newer, Ninja, pkg-config,
-  Qt 6.4 or newer with Widgets and its SVG plugin, libudev, libplist 2, GoogleTest with GoogleMock,
-  umockdev, adb, and fonts for the scripts that names on a phone come in.
+  Qt 6.4 or newer with Widgets, Network, Xml and its SVG plugin, libudev, libplist 2, GoogleTest
+  with GoogleMock, umockdev, adb, and fonts for the scripts that names on a phone come in.
 Going on with what is there.
 NEEDED
     exit 0

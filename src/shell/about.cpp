@@ -76,7 +76,9 @@ About::About(QWidget* window) : QDialog(window, Qt::Sheet) {
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     column->addWidget(buttons);
-    buttons->button(QDialogButtonBox::Close)->setFocus();
+    QPushButton* const close = buttons->button(QDialogButtonBox::Close);
+    close->setIcon({});
+    close->setFocus();
 }
 
 }  // namespace velk

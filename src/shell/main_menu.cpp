@@ -31,7 +31,7 @@ MainMenu_Main::MainMenu_Main(const Window_Parts& parts, const Content_Stack& con
 
 void MainMenu_Main::build() {
     QMenu* const product = add_menu("${ProductName}");
-    about = add_item(product, "about", "${About}");
+    about = add_item(product, "about", "${About}", "Shift+F1");
     product->addSeparator();
     hide_window = add_item(product, "hide", "${Hide}", "Ctrl+H");
     product->addSeparator();
@@ -51,7 +51,7 @@ void MainMenu_Main::build() {
     product_window->setCheckable(true);
     help_menu = add_menu("&Help");
     help = add_item(help_menu, "help", "${Help}", "F1");
-    support = add_item(help_menu, "support", "Support");
+    support = add_item(help_menu, "support", "Support", "Ctrl+F1");
 }
 
 void MainMenu_Main::build_view_menu() {
@@ -108,8 +108,6 @@ QAction* MainMenu_Main::add_item(QMenu* menu, const char* name, const char* titl
 void MainMenu_Main::follow_section() {
     section_menu_->clear();
     const auto* const page = qobject_cast<const Section_Page*>(content_.shown_page());
-    const Section* const section = shown_section(parts_.document);
-    section_menu_->setTitle(section ? menu_title(section->title) : QStringLiteral("&Section"));
     if (page) section_menu_->addActions(page->menu_entries());
     section_menu_->setEnabled(page && view_menu_->isEnabled());
     parts_.guards.look_again();

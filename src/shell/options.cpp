@@ -19,6 +19,7 @@ constexpr const char* help =
     "                print what was found, and end\n"
     "  --help        show this and end\n"
     "  --version     show the version and end\n\n"
+    "While Velk runs, starting it again brings its window to the front.\n"
     "The options of the window system (-platform and others) are taken too.\n";
 
 Options wrong(const std::string& text) {

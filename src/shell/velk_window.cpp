@@ -76,6 +76,7 @@ QWidget* Velk_Window::port_line() {
     auto* const line = new QLabel(this);
     line->setAttribute(Qt::WA_StyledBackground);
     line->setProperty("warning", true);
+    line->setIndent(0);
     line->setAccessibleDescription(QStringLiteral("Warning"));
     line->setTextInteractionFlags(Qt::TextSelectableByMouse);
     Label& trouble = document_.m_LB_Port;
