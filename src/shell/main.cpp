@@ -86,7 +86,7 @@ int main(int count, char** arguments) {
     std::setlocale(LC_NUMERIC, "C");
     QApplication::setApplicationName(velk::g_product_name);
     QApplication::setApplicationVersion(velk::g_version);
-    QApplication::setDesktopFileName("velk");
+    QApplication::setDesktopFileName("org.velk.Velk");
     const velk::Options options = velk::options_of(count, arguments);
     const int status = options.wrong ? print(*options.wrong) : run(options, token);
     velk::flush_trace();
