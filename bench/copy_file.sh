@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Copies a file of 200 MB to the demo phone and back, in pairs: as the sections do it, and by the
-# tool itself. Prints the seconds of each pair and their ratio.
+# real tool itself. Prints the seconds of each pair and their ratio.
 #
 #   bench/copy_file.sh [BUILD FOLDER [PAIRS [MEGABYTES]]]
 set -euo pipefail
@@ -14,7 +14,7 @@ here=$(mktemp -d)
 trap 'rm -rf "$here"' EXIT
 mkdir "$here/back"
 head -c "${MEGABYTES}M" /dev/urandom >"$here/film.mp4"
-adb=$VELK_BIN/adb
+adb=${VELK_ADB:-$(command -v adb)} # not the launcher
 on_phone=/sdcard/Movies
 
 seconds() {

@@ -3,9 +3,11 @@
 #include <unistd.h>
 
 #include <array>
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <string_view>
+#include <thread>
 
 #include "base/text.h"
 #include "bridge/child_process.h"
@@ -16,6 +18,9 @@ namespace velk {
 namespace {
 
 using Words = std::vector<std::string>;
+
+constexpr std::chrono::milliseconds time_for_a_new_phone{3000};
+constexpr std::chrono::milliseconds pause_between_looks{250};
 
 void print(std::FILE* stream, std::string_view text) {
     std::fwrite(text.data(), 1, text.size(), stream);
@@ -56,16 +61,40 @@ int run_plainly(const std::string& tool, const Command_Line& call) {
     return repeat_a_failure(status, said);
 }
 
-int run_devices(const std::string& tool, const Command_Line& call) {
-    std::string said;
-    const int status = run_child(
+int ask_for_devices(const std::string& tool, const Command_Line& call, std::string& said) {
+    said.clear();
+    return run_child(
         {.words = with_tool(tool, call.words()), .shares_input = true, .captures_errors = true},
         [&](std::string_view piece) { said += piece; });
+}
+
+/// The tool's server looks at the bus about once a second, and is told here and there not to.
+bool meets_phones_of_the_bus() {
+    const char* const usb = std::getenv("ADB_USB");
+    return (!usb || std::string_view(usb) != "0") && debugging_is_on_the_bus();
+}
+
+int run_devices(const std::string& tool, const Command_Line& call) {
+    using Clock = std::chrono::steady_clock;
+    const auto latest = Clock::now() + time_for_a_new_phone;
+    std::string said;
+    int status = ask_for_devices(tool, call, said);
+    while (status == 0 && may_not_have_met_the_phone(said) && Clock::now() < latest &&
+           meets_phones_of_the_bus()) {
+        std::this_thread::sleep_for(pause_between_looks);
+        status = ask_for_devices(tool, call, said);
+    }
     const std::size_t list = start_of_device_list(said);
     const std::string complaints = said.substr(0, list);
     print(stderr, complaints);
     print(stdout, version_complaint(complaints) + older_device_list(said.substr(list)));
     return status;
+}
+
+/// A line of it begins so; elsewhere stand names of files.
+bool has_line_with(const std::string& said, const std::string& beginning) {
+    return said.starts_with(beginning) || said.find("\n" + beginning) != std::string::npos ||
+           said.find("\r" + beginning) != std::string::npos;
 }
 
 /// A pull, of which all output is kept: only a failure may be heard on standard output.
@@ -78,8 +107,7 @@ int run_pull(const std::string& tool, const Command_Line& call) {
     std::string said;
     int status = pull(tool, call, {"pull", "-a"}, said);  // the file keeps its date
     // On a disk that keeps no dates the tool fails behind a whole copy, and does not say why.
-    const bool is_whole = said.find("[100%]") != std::string::npos;
-    if (status != 0 && is_whole && said.find("error") == std::string::npos) {
+    if (status != 0 && has_line_with(said, "[100%]") && !has_line_with(said, "adb: error:")) {
         said.clear();
         status = pull(tool, call, {"pull"}, said);
     }

@@ -1,6 +1,9 @@
 #include "launcher/habits.h"
 
 #include <filesystem>
+#include <system_error>
+
+#include "base/file.h"
 
 namespace velk {
 
@@ -34,6 +37,27 @@ std::string version_complaint(std::string_view said) {
     const std::size_t before = said.rfind('\n', complaint);
     const std::size_t start = before == std::string_view::npos ? 0 : before + 1;
     return std::string(said.substr(start, said.find('\n', complaint) - start)) + "\n";
+}
+
+bool may_not_have_met_the_phone(std::string_view list) {
+    const bool is_empty = list.find('\t') == std::string_view::npos;
+    return is_empty || list.find("\toffline") != std::string_view::npos;
+}
+
+bool debugging_is_on_the_bus(const std::string& folder) {
+    const auto holds = [](const std::filesystem::path& file, std::string_view number) {
+        const auto content = read_whole_file(file);
+        return content && content->starts_with(number);
+    };
+    std::error_code error;
+    std::filesystem::directory_iterator device(folder, error);
+    for (; !error && device != std::filesystem::directory_iterator(); device.increment(error)) {
+        const std::filesystem::path& place = device->path();
+        if (holds(place / "bInterfaceClass", "ff") && holds(place / "bInterfaceSubClass", "42") &&
+            holds(place / "bInterfaceProtocol", "01"))
+            return true;
+    }
+    return false;
 }
 
 bool means_a_folder(std::string_view phone_path) {

@@ -19,6 +19,14 @@ std::size_t start_of_device_list(std::string_view said);
 /// when it does not.
 std::string version_complaint(std::string_view said);
 
+/// True when the list is empty or calls a phone offline, as it is for a moment after a phone was
+/// plugged in.
+bool may_not_have_met_the_phone(std::string_view list);
+
+/// True when a phone's debugging interface is on the bus, as the system's folder of USB devices
+/// tells.
+bool debugging_is_on_the_bus(const std::string& folder = "/sys/bus/usb/devices");
+
 /// True when a path on the phone is meant as a folder: its last component has no extension.
 bool means_a_folder(std::string_view phone_path);
 

@@ -46,11 +46,14 @@ judge_package() {
     lintian --allow-root --fail-on error,warning --show-overrides "$package"
     desktop-file-validate packaging/*.desktop
     appstreamcli validate --no-net packaging/*.metainfo.xml
-    local unpacked complaints
+    local unpacked complaints status=0
     unpacked=$(mktemp -d)
     dpkg-deb --extract "$package" "$unpacked"
-    appstreamcli validate-tree --no-net "$unpacked" # that its parts name each other, too
+    appstreamcli validate-tree --no-net "$unpacked" || status=$? # that its parts name each other, too
+    [ -f "$unpacked/usr/share/icons/hicolor/512x512/apps/org.velk.Velk.png" ] ||
+        fail 'the package has no finished icons'
     rm -r "$unpacked"
+    [ "$status" -eq 0 ] || fail 'its parts do not fit together'
     complaints=$(man --warnings --encoding=utf8 --local-file build/release/packaging/velk.1 2>&1 >/dev/null)
     [ -z "$complaints" ] || fail "the manual page: $complaints"
     bash -n packaging/velk.bash-completion
@@ -66,7 +69,10 @@ say 'Validators'
 judge_package
 say 'On a clean system'
 rm -rf build/release/package-tour
-if [ "$(id -u)" -eq 0 ] && unshare --mount --pid --fork true 2>/dev/null; then
+may_mount() {
+    unshare --mount --pid --fork sh -c 'mount -t tmpfs none /mnt && mount -t proc proc /proc' 2>/dev/null
+}
+if [ "$(id -u)" -eq 0 ] && may_mount; then
     scripts/check_udev_rule.sh
     # Whatever is mounted or started in there is gone when it ends.
     unshare --mount --pid --fork --kill-child scripts/try_package.sh "$package" build/release

@@ -30,7 +30,8 @@ stay=tmp/velk-visit # in the system: what the tour needs, and what it leaves
 say() { printf -- '-- %s\n' "$*"; }
 fail() { echo "try_package: $1" >&2 && exit 1; }
 within() { chroot "$root" /usr/bin/env DEBIAN_FRONTEND=noninteractive "$@"; }
-quietly() { "$@" >"$folder/log" 2>&1 || { cat "$folder/log" >&2 && fail "failed: $*"; }; }
+tried() { "$@" >"$folder/log" 2>&1 || { tail -n 20 "$folder/log" >&2 && return 1; }; }
+quietly() { tried "$@" || fail "failed: $*"; }
 
 # This computer's own sources of Debian packages, as lines for a sources.list.
 sources() {
@@ -41,16 +42,15 @@ sources() {
 make_clean_debian() {
     local suite mirror
     suite=$(. /etc/os-release && echo "$VERSION_CODENAME")
-    [ -n "$(sources)" ] || quietly apt-get update
+    [ -n "$(sources)" ] || tried apt-get update || return 1
     mirror=$(sources | awk -v suite="$suite" '$3 == suite { print $2; exit }')
     [ -n "$mirror" ] || { echo 'No source of Debian packages is known.' && return 1; }
-    debootstrap --variant=minbase "$suite" "$root" "$mirror" >"$folder/log" 2>&1 ||
-        { tail -n 5 "$folder/log" && return 1; }
+    tried debootstrap --variant=minbase "$suite" "$root" "$mirror" || return 1
     sources >"$root/etc/apt/sources.list"
-    mount -t proc proc "$root/proc"
+    apt-config dump Acquire >"$root/etc/apt/apt.conf.d/as-on-this-computer" # its proxy, above all
+    mount -t proc proc "$root/proc" || return 1
     echo force-unsafe-io >"$root/etc/dpkg/dpkg.cfg.d/short-lived" # nothing here outlives a crash
-    quietly within apt-get update
-    quietly within apt-get --yes upgrade
+    tried within apt-get update && tried within apt-get --yes upgrade
 }
 
 make_empty_folder() {
@@ -72,7 +72,9 @@ install_dependencies() {
 }
 
 unpacking_dpkg() {
-    quietly dpkg --root="$root" --force-not-root,depends --no-triggers --log="$folder/dpkg.log" "$@"
+    # dpkg asks for programs that an ordinary person's search path does not lead to.
+    PATH=$PATH:/usr/sbin:/sbin quietly dpkg --root="$root" --force-not-root,depends --no-triggers \
+        --log="$folder/dpkg.log" "$@"
 }
 
 install_package() {

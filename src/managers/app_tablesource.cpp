@@ -53,12 +53,7 @@ App_TableSource::App_TableSource(Main_Window& window)
          .run = [this] { OnBT_App_Uninstall(); },
          .guard = &g_can_click_app_uninstall,
          .on_delete_key = true},
-        {.name = "OnBT_Refresh",
-         .caption = "Refresh",
-         .icon = "refresh",
-         .run = [this] { OnBT_Refresh(); },
-         .guard = &g_can_click_load,
-         .keys = keys_of_refresh},
+        refresh_command("OnBT_Refresh", [this] { OnBT_Refresh(); }),
     });
     Load();
 }

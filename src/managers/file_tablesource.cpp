@@ -33,13 +33,9 @@ File_TableSource::File_TableSource(Main_Window& window, const File_Pane& pane, T
     take_drops({.take = [this](std::vector<std::string> paths) { Add_Files(std::move(paths)); },
                 .hint = format("Drop files here to add them to the %s on your phone.", pane.files),
                 .guard = &pane.may_add});
-    const auto adds = [this](bool files) {
-        return [this, files] {
-            quiet.tell_reason("");
-            choose_and_add(files, !files);
-        };
-    };
-    section.adding = {.file = adds(true), .folder = adds(false), .guard = &pane.may_add};
+    section.adding = {.file = afresh([this] { choose_and_add(true, false); }),
+                      .folder = afresh([this] { choose_and_add(false, true); }),
+                      .guard = &pane.may_add};
     set_commands({
         {.name = "OnBT_Add",
          .caption = "Add",
@@ -59,12 +55,7 @@ File_TableSource::File_TableSource(Main_Window& window, const File_Pane& pane, T
          .run = [this] { choose_folder_and_export(); },
          .guard = &pane.may_export,
          .keys = keys_of_export},
-        {.name = "OnBT_Refresh",
-         .caption = "Refresh",
-         .icon = "refresh",
-         .run = [this] { OnBT_Refresh(); },
-         .guard = &pane.may_load,
-         .keys = keys_of_refresh},
+        refresh_command("OnBT_Refresh", [this] { OnBT_Refresh(); }),
     });
 }
 

@@ -13,12 +13,24 @@ Table_Source::Table_Source(Main_Window& window, Identity identity)
 }
 
 void Table_Source::set_commands(std::vector<Command> commands) {
-    for (Command& command : commands)
-        command.run = [this, run = std::move(command.run)] {
-            quiet.tell_reason("");
-            run();
-        };
+    for (Command& command : commands) command.run = afresh(std::move(command.run));
     section.commands = std::move(commands);
+}
+
+Command Table_Source::refresh_command(const char* name, std::function<void()> run) {
+    return {.name = name,
+            .caption = "Refresh",
+            .icon = "refresh",
+            .run = std::move(run),
+            .guard = &identity_.may_load,
+            .keys = keys_of_refresh};
+}
+
+std::function<void()> Table_Source::afresh(std::function<void()> run) {
+    return [this, run = std::move(run)] {
+        quiet.tell_reason("");
+        run();
+    };
 }
 
 void Table_Source::take_drops(Dropped_Files drops) {

@@ -61,6 +61,10 @@ class Table_Source {
 
     /// The section's buttons. Each takes the last command's reason from the quiet line first.
     void set_commands(std::vector<Command> commands);
+    /// The one that every section has; `name` is its handler's.
+    Command refresh_command(const char* name, std::function<void()> run);
+    /// The same with the last command's reason taken from the quiet line first.
+    std::function<void()> afresh(std::function<void()> run);
     /// What becomes of dropped files; they take the last command's reason from the quiet line, too.
     void take_drops(Dropped_Files drops);
 

@@ -30,6 +30,7 @@ void MainDocument::refresh_ini_ui() {
 void MainDocument::refresh_to_do_thread() {
     if (!g_can_click_refresh) return;
     g_can_click_refresh = 0;
+    say_trouble("");
     thread_do_refresh();
 }
 
@@ -77,6 +78,7 @@ void MainDocument::thread_do_refresh_function() {
     on_window([this] {
         g_can_click_refresh = 1;
         g_View_Start->Stop_Loading_Animation();
+        look_for_trouble();
         if (!g_connected_adb) return;
         hidden_some(false);
         pane_loads_.start();

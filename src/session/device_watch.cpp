@@ -17,7 +17,7 @@ bool MainDocument::CheckDeviceExist() {
     interrupt_ = std::make_unique<Unix_Signals>(desktop_, std::vector{SIGINT}, SignalHandler);
     if (!interrupt_->established()) std::fputs("Could not establish new signal handler.", stderr);
     return usb_->start([this] {
-        if (shows_trouble()) look_for_trouble();
+        if (shows_connection()) look_for_trouble();
     });
 }
 
@@ -25,14 +25,16 @@ void MainDocument::look_for_trouble() {
     lookout_.look(m_str_install_apk_file);
 }
 
-bool MainDocument::shows_trouble() const {
-    return dynamic_cast<const Trouble_View*>(m_Control_Box1.view()) != nullptr;
+// While an attempt runs it is too early to say what stands in its way.
+bool MainDocument::shows_connection() const {
+    return g_can_click_refresh &&
+           dynamic_cast<const Connection_View*>(m_Control_Box1.view()) != nullptr;
 }
 
 void MainDocument::say_trouble(const std::string& sentence) {
     for (const auto& view : m_views)
-        if (auto* const trouble = dynamic_cast<Trouble_View*>(view.get()))
-            trouble->m_LB_Trouble.set_text(sentence);
+        if (auto* const connection = dynamic_cast<Connection_View*>(view.get()))
+            connection->m_LB_Trouble.set_text(sentence);
 }
 
 void SignalHandler(int) {

@@ -158,7 +158,7 @@ class MainDocument : public Main_Window, public Window_Outlets, public Adb_Wrapp
     void show_section(int id);
     void show_trouble(int id);
     void look_for_trouble();
-    bool shows_trouble() const;
+    bool shows_connection() const;
     void say_trouble(const std::string& sentence);
 
     /// Does this on the user-interface thread: at once there, posted in order from a worker.

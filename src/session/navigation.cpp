@@ -62,7 +62,6 @@ void MainDocument::show_trouble(int id) {
         m_BT_SMS.set_title("SMS");
         m_BT_Contacts.set_title("Contacts");
         set_BT_Caption_White();
-        look_for_trouble();
         displayViewController(id);
     });
 }

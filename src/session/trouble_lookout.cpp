@@ -2,6 +2,9 @@
 
 #include <unistd.h>
 
+#include <algorithm>
+
+#include "ui/program_wide.h"
 #include "ui/worker.h"
 
 namespace velk {
@@ -31,7 +34,11 @@ void Trouble_Lookout::take(Trouble_Facts facts) {
     if (std::exchange(look_again_, false)) return look(facts.agent_package);
     if (!phones_at_the_answer_) phones_at_the_answer_ = facts.phones;
     facts.adb_answer = answer_;
-    facts.bus_has_changed = facts.phones != *phones_at_the_answer_;
+    facts.connected = g_connected_adb;
+    facts.bus_has_changed = std::any_of(
+        phones_at_the_answer_->begin(), phones_at_the_answer_->end(), [&](const Usb_Phone& phone) {
+            return std::find(facts.phones.begin(), facts.phones.end(), phone) == facts.phones.end();
+        });
     say_(what_to_put_right(facts));
 }
 

@@ -32,8 +32,10 @@ std::string of_computer(const Trouble_Facts& facts) {
 
 std::string not_permitted_to(const std::string& phone) {
     return phone +
-           " is plugged in, but your account may not use it: install the udev rules 70-velk.rules "
-           "or join the group plugdev, then plug it in again.";
+           " is plugged in, but your account may not use it: install the package "
+           "android-sdk-platform-tools-common and join the group plugdev, or install Velk's own "
+           "rule "
+           "(70-velk.rules), then plug it in again.";
 }
 
 /// What adb lists, without the header.
@@ -80,6 +82,7 @@ std::string of_phone_on_the_bus(const std::vector<Usb_Phone>& phones) {
 
 std::string what_to_put_right(const Trouble_Facts& facts) {
     std::string words = of_computer(facts);
+    if (facts.connected) return words;
     if (words.empty() && facts.adb_answer && !facts.bus_has_changed)
         words = of_listed_phone(listed(*facts.adb_answer));
     return words.empty() ? of_phone_on_the_bus(facts.phones) : words;

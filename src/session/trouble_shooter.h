@@ -10,9 +10,11 @@
 namespace velk {
 
 struct Trouble_Facts {
+    /// The last attempt has reached the phone.
+    bool connected = false;
     /// What the last attempt's "devices" printed; nothing before the first has ended.
     std::optional<std::string> adb_answer = {};
-    /// The phones on the bus are others than when adb answered.
+    /// A phone that was on the bus when adb answered has gone.
     bool bus_has_changed = false;
     std::vector<Usb_Phone> phones = {};
     bool agent_package_is_there = true;
@@ -21,7 +23,7 @@ struct Trouble_Facts {
 };
 
 /// The first thing that has to be put right, in a sentence for the person: the computer's own
-/// troubles first, then those of the phone. Any thread.
+/// troubles first, then those of the phone. Empty when there is none. Any thread.
 std::string what_to_put_right(const Trouble_Facts& facts);
 
 }  // namespace velk

@@ -3,6 +3,7 @@
 #include <libudev.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <charconv>
@@ -139,12 +140,21 @@ void Usb_Monitor::take_events() {
             if (is_arrival(device.get())) arrivals.push_back(std::move(device));
             continue;
         }
+        if (!concerns_us(device.get(), arrivals)) continue;
         messages.push_back(std::move(device));
         // It may come again within the same wake-up.
         if (action == "remove") deliver(arrivals, messages);
     }
     deliver(arrivals, messages);
     changed_();
+}
+
+bool Usb_Monitor::concerns_us(udev_device* device, const Devices& arrivals) const {
+    const char* const place = udev_device_get_syspath(device);
+    return records_.contains(place) ||
+           std::any_of(arrivals.begin(), arrivals.end(), [&](const Device& arrival) {
+               return view(udev_device_get_syspath(arrival.get())) == place;
+           });
 }
 
 bool Usb_Monitor::is_arrival(udev_device* device) {

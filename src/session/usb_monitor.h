@@ -72,6 +72,7 @@ class Usb_Monitor {
 
     void listen();
     void take_events();
+    bool concerns_us(udev_device* device, const Devices& arrivals) const;
     bool is_arrival(udev_device* device);
     void deliver(Devices& arrivals, Devices& messages);
 

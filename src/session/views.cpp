@@ -18,7 +18,7 @@ void Connection_View::loadView() {
     managedObjectContext->hidden_some(true);
 }
 
-View_AllowPCConnect::View_AllowPCConnect() : Trouble_View("View_AllowPCConnect") {
+View_AllowPCConnect::View_AllowPCConnect() : Connection_View("View_AllowPCConnect") {
     m_LB_Tips.set_text("Your phone is plugged in, but it has not allowed this computer yet.");
 }
 

@@ -61,6 +61,8 @@ class MainViewController {
 class Connection_View : public MainViewController {
   public:
     using MainViewController::MainViewController;
+    Label m_LB_Trouble{"m_LB_Trouble"};  // what has to be put right, as things stand now
+
     /// The session's Refresh button.
     void OnBT_Refresh();
 
@@ -101,24 +103,17 @@ class View_Start : public Connection_View {
     void light(int lit, const For_Thread_Var& arguments);
 };
 
-/// A view for a phone that is not reached.
-class Trouble_View : public Connection_View {
-  public:
-    using Connection_View::Connection_View;
-    Label m_LB_Trouble{"m_LB_Trouble"};  // what has to be put right, as things stand now
-};
-
 /// Asks the person to allow this computer on the phone.
-class View_AllowPCConnect : public Trouble_View {
+class View_AllowPCConnect : public Connection_View {
   public:
     View_AllowPCConnect();
     Label m_LB_Tips{"m_LB_Tips"};
 };
 
 /// Explains how to switch on USB debugging.
-class View_SettingPhoneUSB : public Trouble_View {
+class View_SettingPhoneUSB : public Connection_View {
   public:
-    View_SettingPhoneUSB() : Trouble_View("View_SettingPhoneUSB") {}
+    View_SettingPhoneUSB() : Connection_View("View_SettingPhoneUSB") {}
 };
 
 /// An empty view.

@@ -56,8 +56,8 @@ void DhAppDelegate::connect_menu() {
     on(menu_.about, [this] { openAboutWindow(); });
     on(menu_.hide_window, [this] { onMiniaturize(); });
     on(menu_.quit, [this] { window_.close(); });
-    on(menu_.add_files, [this] { shown_section(document_)->adding.file(); });
-    on(menu_.add_folder, [this] { shown_section(document_)->adding.folder(); });
+    on(menu_.add_files, [this] { add_with(&Adding::file); });
+    on(menu_.add_folder, [this] { add_with(&Adding::folder); });
     on(menu_.close_window, [this] { window_.close(); });
     on(menu_.minimize, [this] { onMiniaturize(); });
     on(menu_.product_window, [this] { reOpenWindow(); });
@@ -128,11 +128,19 @@ void DhAppDelegate::disableControl() {
     enableMenuItem(false);
 }
 
-void DhAppDelegate::look_again() {
+bool DhAppDelegate::takes_files() const {
     const Section* const shown = shown_section(document_);
-    const bool takes_files = shown && shown->adding.guard && *shown->adding.guard;
+    return shown && shown->adding.guard && *shown->adding.guard;
+}
+
+// Another view may have come since the menu was looked at.
+void DhAppDelegate::add_with(std::function<void()> Adding::*way) {
+    if (takes_files()) (shown_section(document_)->adding.*way)();
+}
+
+void DhAppDelegate::look_again() {
     if (!desktop_.takes_input()) return disableControl();
-    if (takes_files) return enableControl();
+    if (takes_files()) return enableControl();
     menu_.enable_own_controls(true);
     enableMenuItem(false);
 }
@@ -168,10 +176,12 @@ bool DhAppDelegate::applicationShouldTerminateAfterLastWindowClosed() {
 }
 
 void DhAppDelegate::come(const Wish& wish) {
-    // The toolkit takes it from there when it asks the desktop for the front.
-    if (!wish.token.isEmpty()) qputenv("XDG_ACTIVATION_TOKEN", wish.token);
+    // The toolkit takes it from there when it asks the desktop for the front, on Wayland only.
+    const bool takes_token = QGuiApplication::platformName() == QStringLiteral("wayland");
+    if (takes_token) qputenv("XDG_ACTIVATION_TOKEN", wish.token);
     applicationShouldHandleReopen(window_.isVisible());
-    if (wish.connect) menu_.refresh->trigger();
+    if (takes_token) qunsetenv("XDG_ACTIVATION_TOKEN");
+    if (wish.connect && desktop_.takes_input()) document_.OnBT_Refresh();
 }
 
 }  // namespace velk

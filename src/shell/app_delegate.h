@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "shell/second_start.h"
+#include "ui/section.h"
 
 class QDialog;
 
@@ -62,6 +63,9 @@ class DhAppDelegate : public QObject {
 
   private:
     void connect_menu();
+    /// The shown section takes files of the computer's now.
+    bool takes_files() const;
+    void add_with(std::function<void()> Adding::*way);
     void open_address(const char* key) const;
     void window_is_seen(bool seen);
     void come(const Wish& wish);

@@ -5,6 +5,7 @@
 
 namespace velk {
 
+class Connection_View;
 class MainViewController;
 class View_AllowPCConnect;
 class View_SettingPhoneUSB;
@@ -19,5 +20,8 @@ QWidget* make_page(MainViewController& view, const Window_Parts& parts);
 QWidget* start_page(View_Start& view, const Window_Parts& parts);
 QWidget* allow_pc_page(View_AllowPCConnect& view, const Window_Parts& parts);
 QWidget* usb_debugging_page(View_SettingPhoneUSB& view, const Window_Parts& parts);
+
+/// What stands in the way of a phone now, on each of these three; hidden while nothing does.
+QWidget* finding_of(Connection_View& view, const Window_Parts& parts);
 
 }  // namespace velk

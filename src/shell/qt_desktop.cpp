@@ -97,7 +97,10 @@ void Qt_Desktop::drop_boxes() {
 // It may be given up by the very closure that it calls: it is silent at once and goes later.
 Desktop::Watch Qt_Desktop::watch(int descriptor, std::function<void()> readable) {
     auto* const notifier = new QSocketNotifier(descriptor, QSocketNotifier::Read, this);
-    connect(notifier, &QSocketNotifier::activated, this, std::move(readable));
+    connect(notifier, &QSocketNotifier::activated, this, [this, readable = std::move(readable)] {
+        readable();
+        emit turn_ended();
+    });
     return {notifier, [](QSocketNotifier* ended) {
                 ended->setEnabled(false);
                 ended->deleteLater();

@@ -6,6 +6,8 @@
 #include <QThread>
 #include <utility>
 
+#include "base/trace.h"
+
 namespace velk {
 
 namespace {
@@ -76,7 +78,9 @@ Front_Service::Front_Service(const QString& folder, std::function<void(const Wis
     });
     server_.setSocketOptions(QLocalServer::UserAccessOption);
     QLocalServer::removeServer(socket_in(folder));  // of one that has crashed
-    server_.listen(socket_in(folder));
+    if (!server_.listen(socket_in(folder)))
+        log_line("a second start will not be heard: %s",
+                 server_.errorString().toStdString().c_str());
 }
 
 void Front_Service::listen_to(QLocalSocket* caller) {
@@ -85,6 +89,7 @@ void Front_Service::listen_to(QLocalSocket* caller) {
     const auto hear = [this, caller] {
         if (!caller->canReadLine()) return;
         const Wish wish = wish_of(caller->readLine());
+        QObject::disconnect(caller, &QLocalSocket::readyRead, nullptr, nullptr);  // one is enough
         caller->write(here);
         caller->flush();  // the other one ends while this one comes
         caller->disconnectFromServer();

@@ -75,6 +75,7 @@ QWidget* start_page(View_Start& view, const Window_Parts& parts) {
     column->addWidget(message(view.m_LB_Msg_ConnectPhone, parts, page));
     column->addWidget(message(view.m_LB_ConnectingYourPhone, parts, page));
     column->addWidget(refresh, 0, Qt::AlignCenter);
+    column->addWidget(finding_of(view, parts));
     column->addStretch(3);
     return page;
 }

@@ -122,16 +122,8 @@ QWidget* steps_beside_picture(const Steps& steps, const char* picture) {
     return scrolled(row);
 }
 
-QLabel* finding_of(Trouble_View& view, const Window_Parts& parts) {
-    QLabel* const finding = text_of({});
-    finding->setProperty("finding", true);
-    finding->setAccessibleDescription(QStringLiteral("What Velk sees now"));
-    bind_text(parts.binding, view.m_LB_Trouble, finding);
-    return finding;
-}
-
 /// The sentences and the button stay in sight; the steps scroll when the window is small.
-QWidget* trouble_page(Trouble_View& view, const Window_Parts& parts, QLabel* sentence,
+QWidget* trouble_page(Connection_View& view, const Window_Parts& parts, QLabel* sentence,
                       QWidget* steps) {
     auto* const page = new QWidget;
     QPushButton* const refresh = refresh_button(parts, [&view] { view.OnBT_Refresh(); });
@@ -151,6 +143,17 @@ QWidget* trouble_page(Trouble_View& view, const Window_Parts& parts, QLabel* sen
 }
 
 }  // namespace
+
+QWidget* finding_of(Connection_View& view, const Window_Parts& parts) {
+    QLabel* const finding = text_of({});
+    finding->setProperty("finding", true);
+    finding->setAccessibleDescription(QStringLiteral("What Velk sees now"));
+    Label& trouble = view.m_LB_Trouble;
+    bind_text(parts.binding, trouble, finding);
+    parts.binding.bind(trouble, finding,
+                       [&trouble, finding] { finding->setHidden(trouble.text().empty()); });
+    return finding;
+}
 
 QWidget* allow_pc_page(View_AllowPCConnect& view, const Window_Parts& parts) {
     auto* const sentence = new QLabel;

@@ -23,7 +23,7 @@ struct Command {
     std::string icon = {};  // a picture of the resources without folder and ending: "refresh"
     std::function<void()> run;
     const Flag* guard = nullptr;  // button and menu entry are disabled while this is 0
-    const char* keys = nullptr;   // that run it while its section is shown: one of those below
+    const char* keys = nullptr;   // that run it while its section is shown: one of those above
     bool on_delete_key = false;   // the table's Delete key runs it too
     bool is_default = false;      // a dialog's Return key runs it
 };

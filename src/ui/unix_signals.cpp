@@ -20,8 +20,8 @@ std::array<std::atomic<int>, NSIG> pipe_of_signal;
 void tell(int number) {
     const int before = errno;
     const char byte = static_cast<char>(number);
-    [[maybe_unused]] const ssize_t written =
-        write(pipe_of_signal[static_cast<std::size_t>(number)], &byte, 1);
+    const int pipe = pipe_of_signal[static_cast<std::size_t>(number)];
+    [[maybe_unused]] const ssize_t written = pipe < 0 ? 0 : write(pipe, &byte, 1);
     errno = before;
 }
 
@@ -60,7 +60,10 @@ Unix_Signals::Unix_Signals(Desktop& desktop, std::vector<int> numbers,
 
 Unix_Signals::~Unix_Signals() {
     if (!reader_.is_open()) return;
-    for (const int number : numbers_) handle(number, SIG_DFL);
+    for (const int number : numbers_) {
+        handle(number, SIG_DFL);
+        pipe_of_signal.at(static_cast<std::size_t>(number)) = -1;
+    }
 }
 
 void Unix_Signals::read_all() {

@@ -2,11 +2,15 @@
 #include <gmock/gmock.h>
 
 #include <csignal>
+#include <filesystem>
+#include <fstream>
 #include <thread>
 
 #include "base/interruptor.h"
 #include "launched.h"
+#include "launcher/habits.h"
 #include "support/fake_adb.h"
+#include "support/temporary_folder.h"
 
 namespace velk {
 namespace {
@@ -87,6 +91,24 @@ TEST(Launcher, restores_the_older_habits_and_passes_on_the_rest) {
         EXPECT_EQ(launched.errors, errand.expected.errors);
         EXPECT_EQ(launched.status, errand.expected.status);
         EXPECT_EQ(adb.call_lines(), errand.calls);
+    }
+}
+
+TEST(Launcher, waits_only_for_a_phone_that_the_bus_shows_and_the_tool_has_not_met) {
+    const std::string header = "List of devices attached\n";
+    EXPECT_TRUE(may_not_have_met_the_phone(header));
+    EXPECT_TRUE(may_not_have_met_the_phone(header + "S1\toffline\n"));
+    for (const char* const state : {"device", "unauthorized", "no permissions"})
+        EXPECT_FALSE(may_not_have_met_the_phone(header + "S1\t" + state + "\n")) << state;
+    const Temporary_Folder bus;
+    EXPECT_FALSE(debugging_is_on_the_bus(bus.path("")));
+    for (const char* const protocol : {"02", "01"}) {
+        const std::string place = bus.path("1-1:1." + std::string(protocol));
+        std::filesystem::create_directory(place);
+        std::ofstream(place + "/bInterfaceClass") << "ff\n";
+        std::ofstream(place + "/bInterfaceSubClass") << "42\n";
+        std::ofstream(place + "/bInterfaceProtocol") << protocol << "\n";
+        EXPECT_EQ(debugging_is_on_the_bus(bus.path("")), std::string(protocol) == "01");
     }
 }
 

@@ -44,10 +44,12 @@ TEST(Trouble_Shooter, names_the_first_thing_that_has_to_be_put_right) {
     };
     for (const auto& [facts, words] : cases)
         EXPECT_THAT(what_to_put_right(facts), HasSubstr(words));
+    EXPECT_EQ(what_to_put_right({.connected = true, .adb_answer = listing("device")}), "");
 }
 
 TEST_F(Session, says_on_the_view_of_a_trouble_what_stands_in_the_way_each_time_it_is_shown) {
-    const auto& view = dynamic_cast<Trouble_View&>(*document.m_views[DEFINE_VIEW_SettingPhoneUSB]);
+    const auto& view =
+        dynamic_cast<Connection_View&>(*document.m_views[DEFINE_VIEW_SettingPhoneUSB]);
     adb.answer("devices", nothing.c_str());
     refresh();
     EXPECT_THAT(view.m_LB_Trouble.text(),
@@ -58,6 +60,14 @@ TEST_F(Session, says_on_the_view_of_a_trouble_what_stands_in_the_way_each_time_i
     adb.answer("devices", (other_version + nothing).c_str());
     refresh();
     EXPECT_THAT(view.m_LB_Trouble.text(), HasSubstr("port 5037"));
+    // Troubles that leave the start view where it is.
+    for (const auto& [answer, words] : {std::pair(std::string(), "sudo apt install adb"),
+                                        std::pair(listing("offline"), "offline"),
+                                        std::pair(listing("no permissions"), "70-velk.rules")}) {
+        adb.answer("devices", answer.c_str());
+        refresh();
+        EXPECT_THAT(g_View_Start->m_LB_Trouble.text(), HasSubstr(words));
+    }
 }
 
 }  // namespace

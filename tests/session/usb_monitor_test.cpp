@@ -216,7 +216,8 @@ TEST_F(Usb_Monitor_Test, says_anew_what_stands_in_the_way_when_the_bus_changes) 
     start_without_a_phone();
     document->OnBT_Refresh();
     desktop.finish_work();
-    const auto& view = dynamic_cast<Trouble_View&>(*document->m_views[DEFINE_VIEW_SettingPhoneUSB]);
+    const auto& view =
+        dynamic_cast<Connection_View&>(*document->m_views[DEFINE_VIEW_SettingPhoneUSB]);
     EXPECT_THAT(view.m_LB_Trouble.text(), HasSubstr("no phone on the USB bus"));
     const std::string fern = bus.plug({.product = "Fern", .vendor_id = "18d1"});
     bus.add_interface(fern, "ff4201", "");
