@@ -75,7 +75,11 @@ QWidget* start_page(View_Start& view, const Window_Parts& parts) {
     column->addWidget(message(view.m_LB_Msg_ConnectPhone, parts, page));
     column->addWidget(message(view.m_LB_ConnectingYourPhone, parts, page));
     column->addWidget(refresh, 0, Qt::AlignCenter);
-    column->addWidget(finding_of(view, parts));
+    auto* const below = new QHBoxLayout;
+    below->addStretch(1);
+    below->addWidget(finding_of(view, parts), 6);
+    below->addStretch(1);
+    column->addLayout(below);
     column->addStretch(3);
     return page;
 }
