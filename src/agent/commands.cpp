@@ -16,7 +16,7 @@ std::string sock_apk::get_command(int code) {
 
 bool sock_apk::do_command(int code) {
     const bool answered = is_answered(get_command(code));
-    trace(answered ? "Successfully!" : "Failed!");
+    trace("%s", plain(answered ? "Successfully!" : "Failed!"));
     return answered;
 }
 

@@ -129,7 +129,7 @@ std::string parse(const std::string& data, int length, std::vector<Record>& reco
         Record record;
         for (const auto& field : fields) {
             if (place + head_of(field.kind) > bytes.size()) {
-                trace("%s", field.missing);
+                trace("%s", plain(field.missing));
                 return std::string(bytes.substr(begin));
             }
             record.*field.stored = value_of(field.kind, bytes, place);

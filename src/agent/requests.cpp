@@ -43,7 +43,7 @@ std::string sock_apk::get_battery_from_apk(const char* code) {
     agent.send_code(code);
     const std::string battery = last_byte(agent.receive_reply());
     trace("\nrs string length =%d, str is [%s]\n", static_cast<int>(battery.size()),
-          battery.c_str());
+          plain(battery));
     return battery;
 }
 

@@ -19,7 +19,9 @@ namespace velk {
 
 namespace {
 
-constexpr mode_t mode_of_a_new_file = 0666;  // less the umask
+// Of a new file, less the umask.
+constexpr mode_t mode_for_all = 0666;
+constexpr mode_t mode_for_the_owner = 0600;
 constexpr mode_t mode_bits = 07777;
 constexpr int most_links = 40;  // the kernel's own limit for one path
 
@@ -43,11 +45,12 @@ bool write_all(int file, std::string_view content) {
 
 /// A new hidden file in `folder`, whose name is put into `name`; -1 and no name when none can be
 /// made.
-int make_hidden_file(const std::filesystem::path& folder, std::filesystem::path& name) {
+int make_hidden_file(const std::filesystem::path& folder, mode_t mode,
+                     std::filesystem::path& name) {
     int file = -1;
     do {
         name = folder / hidden_name();
-        file = ::open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode_of_a_new_file);
+        file = ::open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
     } while (file < 0 && errno == EEXIST);
     if (file < 0) name.clear();
     return file;
@@ -56,8 +59,8 @@ int make_hidden_file(const std::filesystem::path& folder, std::filesystem::path&
 /// Writes a file beside the target and puts it in the target's place.
 class Replacement {
   public:
-    explicit Replacement(const std::filesystem::path& target)
-        : target_(target), file_(make_hidden_file(target.parent_path(), name_)) {}
+    explicit Replacement(const std::filesystem::path& target, mode_t mode = mode_for_all)
+        : target_(target), file_(make_hidden_file(target.parent_path(), mode, name_)) {}
     ~Replacement() {
         const int reason = errno;
         if (!name_.empty()) ::unlink(name_.c_str());
@@ -113,8 +116,9 @@ bool write_in_place(const std::filesystem::path& target, std::string_view conten
            ::fsync(file.number()) == 0 && file.close();
 }
 
-bool write_new(const std::filesystem::path& target, std::string_view content) {
-    Replacement file(target);
+bool write_new(const std::filesystem::path& target, std::string_view content,
+               mode_t mode = mode_for_all) {
+    Replacement file(target, mode);
     return file.possible() && file.write(content) && file.put_in_place();
 }
 
@@ -132,7 +136,7 @@ bool write_over(const std::filesystem::path& target, std::string_view content,
 
 }  // namespace
 
-std::string write_whole_file(const std::string& path, std::string_view content) {
+std::string write_whole_file(const std::string& path, std::string_view content, Readers readers) {
     if (path.empty()) return system_reason(ENOENT);
     const std::filesystem::path target = behind_links(path);
     struct stat found {};
@@ -141,6 +145,10 @@ std::string write_whole_file(const std::string& path, std::string_view content) 
     if (is_there && S_ISDIR(found.st_mode)) return system_reason(EISDIR);
     // Whoever may change the folder could replace a file that says it must not be written.
     if (is_there && ::access(target.c_str(), W_OK) != 0) return system_reason(errno);
+    if (readers == Readers::owner) {
+        if (is_there && !S_ISREG(found.st_mode)) return system_reason(EINVAL);
+        return write_new(target, content, mode_for_the_owner) ? "" : system_reason(errno);
+    }
     const bool done = is_there ? write_over(target, content, found) : write_new(target, content);
     return done ? "" : system_reason(errno);
 }

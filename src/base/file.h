@@ -8,6 +8,9 @@
 
 namespace velk {
 
+/// Who may read a file that is written: as for the one that stood there, or its owner alone (0600).
+enum class Readers { as_before, owner };
+
 /// Makes `content` the file's content. Gives "" on success, else the system's reason in a few
 /// English words.
 ///
@@ -16,7 +19,11 @@ namespace velk {
 /// folder takes no file, it has several names, it is a device, the disk keeps no owner or mode or
 /// does not let this person give them to a new file) it is written in place: not before the disk
 /// has room for all of it, as far as the disk can tell.
-std::string write_whole_file(const std::string& path, std::string_view content);
+///
+/// A file that is for its owner alone is a new one in any case, which takes the place of the old:
+/// at no time could others read it.
+std::string write_whole_file(const std::string& path, std::string_view content,
+                             Readers readers = Readers::as_before);
 
 /// The system's reason for an error number in the window's language, whatever the person's is.
 std::string system_reason(int error);

@@ -27,7 +27,8 @@ constexpr const char* no_rows = "That file holds no contacts, or not all of its 
 /// The file's text; nothing when it is not there or no text.
 std::optional<std::string> readFromFile(const std::string& path, const char*& reason) {
     std::error_code no_matter;
-    log_line(std::filesystem::exists(path, no_matter) ? "file exist!" : "file not exist!");
+    log_line("%s",
+             plain(std::filesystem::exists(path, no_matter) ? "file exist!" : "file not exist!"));
     std::optional<std::string> text = read_whole_file(path);
     if (!text) reason = no_file;
     if (!text || is_utf8(*text)) return text;
@@ -112,7 +113,7 @@ bool Contacts_TableSource::read_html(const std::string& path) {
 }
 
 bool Contacts_TableSource::import_rows(std::string_view rows) {
-    log_line("%.*s", static_cast<int>(rows.size()), rows.data());
+    log_line("%s", std::string(rows));
     Busy_Note note = busy("Importing contacts");
     Page_Records records(rows);
     Page_Contact contact;

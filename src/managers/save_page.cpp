@@ -3,7 +3,6 @@
 #include <filesystem>
 #include <system_error>
 
-#include "base/file.h"
 #include "base/text.h"
 #include "base/trace.h"
 #include "export/html_tools.h"
@@ -38,9 +37,10 @@ std::string choose_save_path(Desktop& desktop, const std::string& title,
     }
 }
 
-std::string save_text(const Desktop& desktop, const std::string& path, const std::string& text) {
-    const std::string reason =
-        desktop.closing() ? "The window was closed." : write_whole_file(path, as_utf8(text));
+std::string save_text(const Desktop& desktop, const std::string& path, const std::string& text,
+                      Readers readers) {
+    const std::string reason = desktop.closing() ? "The window was closed."
+                                                 : write_whole_file(path, as_utf8(text), readers);
     trace("save :%d", reason.empty());
     return reason;
 }

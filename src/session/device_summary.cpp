@@ -63,7 +63,7 @@ namespace {
 struct Section_Count {
     const char* code;
     const char* what;
-    const char* traced;
+    Trace_Format<std::string> traced;
     Button Window_Outlets::*button;
     const char* title;
     int& counted;
@@ -118,13 +118,13 @@ std::int32_t MainDocument::show_size(const std::string& reported, Label& label) 
 }
 
 void MainDocument::read_storage(Summary_Reader& phone) {
-    const auto read = [&](const char* code, const char* traced, Label& label) {
+    const auto read = [&](const char* code, Trace_Format<std::string> traced, Label& label) {
         const std::string reported = phone.value(code, "storage sizes");
-        trace(traced, reported.c_str());
+        trace(traced, reported);
         return show_size(reported, label);
     };
     const double phone_total = read("81", "Total SD Size:[%s]\n", m_LB_Size_PhoneTotal);
-    trace("Format :%s\n", sock_apk::format_size(static_cast<std::int32_t>(phone_total)).c_str());
+    trace("Format :%s\n", plain(sock_apk::format_size(static_cast<std::int32_t>(phone_total))));
     const double phone_free =
         read("85", "Total Mobile Available Size:[%s]\n", m_LB_Size_PhoneTotalFree);
     const double storage_total = read("79", "Total Mobile Size:[%s]\n", m_LB_Size_StorageTotal);
@@ -158,7 +158,7 @@ void MainDocument::read_counts(Summary_Reader& phone) {
     set_BT_Caption_White();
     for (const Section_Count& count : section_counts) {
         const std::string number = phone.value(count.code, count.what);
-        trace(count.traced, number.c_str());
+        trace(count.traced, number);
         on_window([this, &count, number] {
             count.counted = to_int32(number);
             (this->*count.button).set_title(format(count.title, number.c_str()));

@@ -26,9 +26,12 @@ class Trouble_Lookout {
     /// Looks around for the agent's package and for phones: at once, or as soon as the look that
     /// is under way has ended.
     void look(const std::string& package);
+    /// All that is known now, without a sentence about it. Workers; takes as long as the system.
+    Trouble_Facts facts_now(const std::string& package) const;
 
   private:
-    void look_around(Trouble_Facts facts);
+    Trouble_Facts found_around(const std::string& package) const;
+    void add_answer(Trouble_Facts& facts) const;
     void take(Trouble_Facts facts);
 
     Desktop& desktop_;

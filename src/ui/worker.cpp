@@ -58,7 +58,7 @@ bool Worker::start(const std::string& name, std::function<void()> body) {
         return true;
     } catch (const std::system_error& failure) {
         running.workers.erase(own);
-        log_line("%s cannot be started: %s", name.c_str(), failure.what());
+        log_line("%s cannot be started: %s", plain(name), plain(failure.what()));
         return false;
     }
 }
