@@ -49,6 +49,10 @@ std::string ADB_Command::get_adb_start(const std::string& tool) {
     return output_of({tool, "start-server"});
 }
 
+std::string ADB_Command::get_adb_version(const std::string& tool) {
+    return logged(output_of({tool, "version"}));
+}
+
 std::string ADB_Command::Install_Apk_To_Android(const std::string& tool, const std::string& ModelID,
                                                 const std::string& ApkFile) {
     return logged(output_on_device(tool, ModelID, {"install", "-r", ApkFile}));

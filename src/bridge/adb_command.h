@@ -17,6 +17,7 @@ class ADB_Command {
     std::string adb_kill_server(const std::string& tool);
     std::string get_adb_device(const std::string& tool);
     std::string get_adb_start(const std::string& tool);
+    std::string get_adb_version(const std::string& tool);
 
     std::string Install_Apk_To_Android(const std::string& tool, const std::string& ModelID,
                                        const std::string& ApkFile);

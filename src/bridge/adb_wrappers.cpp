@@ -33,8 +33,12 @@ Adb_Wrappers::Target Adb_Wrappers::target() const {
     return desktop_.ask([this] { return Target{g_adb_tool_file, m_device_serial_number}; });
 }
 
+std::string Adb_Wrappers::tool_beside_the_program() const {
+    return directory_ + "/" + g_adb_tool_file_path;
+}
+
 void Adb_Wrappers::get_adb_full_path() {
-    const std::string tool = directory_ + "/" + g_adb_tool_file_path;
+    const std::string tool = tool_beside_the_program();
     log_line("g_adb_tool_file: %s", tool.c_str());
     desktop_.perform([tool] { g_adb_tool_file = tool; });
 }
@@ -54,6 +58,10 @@ std::string Adb_Wrappers::adb_start() {
     const std::string tool = target().tool;
     ADB_Command().get_pwd();
     return logged(ADB_Command().get_adb_start(tool));
+}
+
+std::string Adb_Wrappers::adb_version() {
+    return logged(ADB_Command().get_adb_version(tool_beside_the_program()));
 }
 
 std::string Adb_Wrappers::adb_kill_server() {

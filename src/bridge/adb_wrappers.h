@@ -42,6 +42,8 @@ class Adb_Wrappers {
     /// The output of "devices"; a fixed text when the tool's path is not known.
     std::string adb_devices();
     std::string adb_start();
+    /// The output of "version" of the tool beside the program, also before the first attempt.
+    std::string adb_version();
     std::string adb_kill_server();
     /// The verdict on removing a package.
     std::string adb_uninstall_apk(const std::string& package);
@@ -54,6 +56,7 @@ class Adb_Wrappers {
     void adb_tcp_in_mobile_phone_all();
 
   private:
+    std::string tool_beside_the_program() const;
     struct Target {
         std::string tool;
         std::string serial;

@@ -80,6 +80,10 @@ class MainDocument : public Main_Window, public Window_Outlets, public Adb_Wrapp
     /// user-interface thread; the position is not used.
     bool is_connected(const std::string& text, std::size_t attached_pos_start);
 
+    /// Help: writes a text file, which its owner alone may read, in a place that the person
+    /// chooses. Both texts are names with versions.
+    void save_report(const std::string& toolkit, const std::string& system);
+
     // --- navigation -------------------------------------------------------------------------
 
     /// Shows a view in the content box; nullptr hides the box. Any thread.

@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QSettings>
 #include <QStandardPaths>
+#include <QSysInfo>
 #include <QUrl>
 #include <utility>
 
@@ -63,6 +64,7 @@ void DhAppDelegate::connect_menu() {
     on(menu_.product_window, [this] { reOpenWindow(); });
     on(menu_.help, [this] { openHelpURL(); });
     on(menu_.support, [this] { openSupportURL(); });
+    on(menu_.save_report, [this] { save_report(); });
 }
 
 void DhAppDelegate::applicationDidFinishLaunching() {
@@ -111,6 +113,13 @@ void DhAppDelegate::openAboutWindow() {
         desktop_.keep(about_);
     }
     about_->open();
+}
+
+void DhAppDelegate::save_report() {
+    const QString system = QStringLiteral("%1, %2 %3, %4")
+                               .arg(QSysInfo::prettyProductName(), QSysInfo::kernelType(),
+                                    QSysInfo::kernelVersion(), QSysInfo::currentCpuArchitecture());
+    document_.save_report(std::string("Qt ") + qVersion(), system.toStdString());
 }
 
 void DhAppDelegate::enableMenuItem(bool on) {

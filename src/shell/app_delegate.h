@@ -46,6 +46,8 @@ class DhAppDelegate : public QObject {
     void openHelpURL();
     void openSupportURL();
     void openAboutWindow();
+    /// What a person can send along with a bug.
+    void save_report();
 
     /// "Add Folder..." and "Add File(s)..." together.
     void enableMenuItem(bool on);

@@ -52,6 +52,8 @@ void MainMenu_Main::build() {
     help_menu = add_menu("&Help");
     help = add_item(help_menu, "help", "${Help}", "F1");
     support = add_item(help_menu, "support", "Support", "Ctrl+F1");
+    help_menu->addSeparator();
+    save_report = add_item(help_menu, "save_report", "Save report...", "Ctrl+Shift+F1");
 }
 
 void MainMenu_Main::build_view_menu() {

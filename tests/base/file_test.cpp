@@ -41,6 +41,21 @@ TEST_F(Files, AFileKeepsItsModeItsLinkAndItsOtherNames) {
     EXPECT_EQ(count(), 5U) << "something was left beside them";
 }
 
+TEST_F(Files, AFileForItsOwnerAloneIsSoWhateverStoodThere) {
+    write_whole_file(at("old"), "seen by all");
+    fs::permissions(at("old"), fs::perms(0666));
+    fs::create_hard_link(at("old"), at("twin"));
+    fs::create_symlink("to_come", at("dangling"));
+    for (const char* name : {"old", "new", "dangling"}) {
+        EXPECT_EQ(write_whole_file(at(name), "own", Readers::owner), "") << name;
+        EXPECT_EQ(fs::status(at(name)).permissions(), fs::perms(0600)) << name;
+        EXPECT_EQ(read_whole_file(at(name)), "own") << name;
+    }
+    EXPECT_TRUE(fs::is_symlink(at("dangling")));
+    EXPECT_EQ(read_whole_file(at("twin")), "seen by all");
+    EXPECT_EQ(write_whole_file("/dev/null", "own", Readers::owner), "Invalid argument");
+}
+
 TEST_F(Files, AFullDiskDestroysNothing) {
     rlimit before{};
     getrlimit(RLIMIT_FSIZE, &before);
