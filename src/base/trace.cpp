@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <cstdarg>
 #include <cstdio>
 #include <mutex>
@@ -13,21 +14,22 @@ namespace velk {
 
 namespace {
 
-constexpr std::size_t longest_line = 400;      // bytes
-constexpr std::size_t longest_message = 1000;  // bytes; of the program's own words alone
+constexpr std::size_t longest_line = 400;  // bytes
+
+using tracing::Shown;
 
 /// The last lines in a ring. A line that has gone leaves its memory to one that comes.
 class Kept_Lines {
   public:
-    void add(std::string_view text) {
+    void add(const char* format, const Shown* next_argument) {
         const std::lock_guard lock(mutex_);
-        add_locked(text);
+        add_formatted(format, next_argument);
     }
     /// As a line of its own, whatever has been begun before.
-    void add_line(std::string_view text) {
+    void add_line(const char* format, const Shown* next_argument) {
         const std::lock_guard lock(mutex_);
         if (!lines_[last_].empty()) begin_line();
-        add_locked(text);
+        add_formatted(format, next_argument);
         if (!lines_[last_].empty()) begin_line();
     }
     std::string all() {
@@ -39,7 +41,35 @@ class Kept_Lines {
     }
 
   private:
-    void add_locked(std::string_view text) {
+    // Many thousand traces may come in a second: the C library would take longer for each.
+    void add_formatted(std::string_view format, const Shown* next_argument) {
+        for (;;) {
+            const std::size_t mark = std::min(format.find('%'), format.size());
+            add_text(format.substr(0, mark));
+            if (mark == format.size()) return;
+            const std::size_t letter = format.find_first_not_of("0123456789l", mark + 1);
+            if (format[letter] == '%')
+                add_text("%");
+            else if (format[letter] == 's')
+                add_text((next_argument++)->text);
+            else
+                add_number((next_argument++)->number, format.substr(mark + 1, letter - mark));
+            format.remove_prefix(letter + 1);
+        }
+    }
+    /// `conversion` is its width, if it has one, and its letter. Zeros fill the width.
+    void add_number(long number, std::string_view conversion) {
+        std::array<char, 24> digits{};  // 64 bits have 20 digits
+        std::size_t width = 0;
+        std::from_chars(conversion.begin(), conversion.end(), width);
+        const char* const end = std::to_chars(digits.data(), digits.data() + digits.size(), number,
+                                              conversion.ends_with('x') ? 16 : 10)
+                                    .ptr;
+        const auto length = static_cast<std::size_t>(end - digits.data());
+        add_text(std::string(width - std::min(width, length), '0'));
+        add_text({digits.data(), length});
+    }
+    void add_text(std::string_view text) {
         for (;;) {
             const std::size_t end = std::min(text.find('\n'), text.size());
             std::string& line = lines_[last_];
@@ -66,20 +96,6 @@ Kept_Lines& kept() {
     return lines;
 }
 
-/// A message as it is kept; cut where it is too long.
-class Message {
-  public:
-    Message(const char* format, va_list arguments) {
-        const int length = std::vsnprintf(text_.data(), text_.size(), format, arguments);
-        length_ = std::min(static_cast<std::size_t>(std::max(length, 0)), text_.size() - 1);
-    }
-    std::string_view text() const { return {text_.data(), length_}; }
-
-  private:
-    std::array<char, longest_message> text_;
-    std::size_t length_ = 0;
-};
-
 }  // namespace
 
 void tracing::print(const char* format, ...) {
@@ -98,18 +114,12 @@ void tracing::print_to_log(const char* format, ...) {
     va_end(arguments);
 }
 
-void tracing::keep(const char* format, ...) {
-    va_list arguments;
-    va_start(arguments, format);
-    kept().add(Message(format, arguments).text());
-    va_end(arguments);
+void tracing::keep(const char* format, std::initializer_list<Shown> arguments) {
+    kept().add(format, arguments.begin());
 }
 
-void tracing::keep_line(const char* format, ...) {
-    va_list arguments;
-    va_start(arguments, format);
-    kept().add_line(Message(format, arguments).text());
-    va_end(arguments);
+void tracing::keep_line(const char* format, std::initializer_list<Shown> arguments) {
+    kept().add_line(format, arguments.begin());
 }
 
 void flush_trace() {

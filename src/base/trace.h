@@ -4,6 +4,8 @@
 // shown to anybody: there "***" stands for every text that the call has not marked as plain().
 #pragma once
 
+#include <concepts>
+#include <initializer_list>
 #include <string>
 #include <type_traits>
 
@@ -35,27 +37,31 @@ inline const char* whole(const std::string& text) {
 inline const char* whole(Plain words) {
     return words.text;
 }
-template <class Number>
-requires std::is_arithmetic_v<Number> Number whole(Number number) {
+template <std::integral Number>
+Number whole(Number number) {
     return number;
 }
 
-template <class Text>
-requires(!std::is_arithmetic_v<Text>) const char* masked(const Text&) {
-    return "***";
+/// An argument as it is kept.
+struct Shown {
+    const char* text = nullptr;  // none: a number
+    long number = 0;
+};
+template <class Argument>
+Shown masked(const Argument& argument) {
+    if constexpr (std::is_integral_v<Argument>)
+        return {.number = static_cast<long>(argument)};
+    else
+        return {.text = "***"};
 }
-inline const char* masked(Plain words) {
-    return words.text;
-}
-template <class Number>
-requires std::is_arithmetic_v<Number> Number masked(Number number) {
-    return number;
+inline Shown masked(Plain words) {
+    return {.text = words.text};
 }
 
 void print(const char* format, ...);
 void print_to_log(const char* format, ...);
-void keep(const char* format, ...);
-void keep_line(const char* format, ...);
+void keep(const char* format, std::initializer_list<Shown> arguments);
+void keep_line(const char* format, std::initializer_list<Shown> arguments);
 
 }  // namespace tracing
 
@@ -65,7 +71,7 @@ void keep_line(const char* format, ...);
 template <class... Arguments>
 void trace(std::type_identity_t<Trace_Format<Arguments...>> format, const Arguments&... arguments) {
     tracing::print(format.text(), tracing::whole(arguments)...);
-    tracing::keep(format.text(), tracing::masked(arguments)...);
+    tracing::keep(format.text(), {tracing::masked(arguments)...});
 }
 
 /// One line for the system log, which also shows on standard error.
@@ -73,7 +79,7 @@ template <class... Arguments>
 void log_line(std::type_identity_t<Trace_Format<Arguments...>> format,
               const Arguments&... arguments) {
     tracing::print_to_log(format.text(), tracing::whole(arguments)...);
-    tracing::keep_line(format.text(), tracing::masked(arguments)...);
+    tracing::keep_line(format.text(), {tracing::masked(arguments)...});
 }
 
 /// Hands what trace() has gathered to the system.
