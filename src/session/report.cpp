@@ -53,7 +53,8 @@ const char* words_for(const std::optional<std::string>& answer) {
 std::string sentence_without_names(Trouble_Facts facts) {
     for (Usb_Phone& phone : facts.phones) phone.name.clear();
     facts.directory = "its folder";
-    return what_to_put_right(facts);
+    const std::string words = what_to_put_right(facts);
+    return words.empty() ? "Nothing." : words;
 }
 
 std::string what_is_seen(const Trouble_Facts& facts) {
