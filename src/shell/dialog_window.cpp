@@ -131,7 +131,9 @@ QLayout* Dialog_Window::button_row() {
         button->setDefault(command.is_default);
     }
     // Else the toolkit would name a default button of its own where the dialog has none.
-    for (auto* const button : findChildren<QPushButton*>()) button->setAutoDefault(false);
+    const auto buttons = findChildren<QPushButton*>();
+    for (auto* const button : buttons) button->setAutoDefault(false);
+    give_keys({buttons.begin(), buttons.end()});
     return row;
 }
 

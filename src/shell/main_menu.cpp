@@ -47,7 +47,7 @@ void MainMenu_Main::build() {
     QMenu* const window = add_menu("&Window");
     minimize = add_item(window, "minimize", "Minimize", "Ctrl+M");
     window->addSeparator();
-    product_window = add_item(window, "product_window", "${ProductName}");
+    product_window = add_item(window, "product_window", "${ProductName}", "Ctrl+Shift+M");
     product_window->setCheckable(true);
     help_menu = add_menu("&Help");
     help = add_item(help_menu, "help", "${Help}", "F1");

@@ -40,6 +40,7 @@ QDialog* open_alert_box(QWidget* front, const Alert& alert, std::function<void(i
         box->setDefaultButton(button);
         box->setEscapeButton(button);
     }
+    give_keys(box->buttons());  // the letter alone will do
     const int escape = alert.last_button();
     QObject::connect(box, &QDialog::finished, box, [box, escape, answered = std::move(answered)] {
         const auto pressed = box->buttons().indexOf(box->clickedButton());
@@ -124,6 +125,7 @@ class File_Box : public QFileDialog {
         new_folder->setToolTip(QStringLiteral("New Folder"));
         new_folder->setAccessibleName(new_folder->toolTip());
         delete layout()->replaceWidget(theirs, new_folder);
+        setTabOrder(theirs, new_folder);
         theirs->hide();
         connect(new_folder, &QToolButton::clicked, this, &File_Box::ask_for_new_folder);
     }

@@ -1,5 +1,6 @@
 #include "shell/row_table.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QHeaderView>
@@ -92,6 +93,7 @@ Row_Table::Row_Table(Table& table, Binding& binding, QString empty_text, QWidget
     setVerticalScrollMode(ScrollPerPixel);
     setAccessibleDescription(empty_text_);
     set_up_columns();
+    add_sort_entries();
     connect(model_, &QAbstractItemModel::modelReset, this, &Row_Table::restore_selection);
     restore_selection();
     connect(selectionModel(), &QItemSelectionModel::selectionChanged, this,
@@ -117,6 +119,18 @@ void Row_Table::set_up_columns() {
                        fontMetrics().averageCharWidth() * column.width + 2 * space_beside_a_cell);
         if (column.wide) header->setSectionResizeMode(i, QHeaderView::Stretch);
     }
+}
+
+// A table that is not shown does not listen.
+void Row_Table::add_sort_entries() {
+    for (int i = 0; i < model_->columnCount(); ++i) {
+        const QString title = model_->headerData(i, Qt::Horizontal, Qt::DisplayRole).toString();
+        auto* const entry = new QAction(QStringLiteral("Sort by ") + title, this);
+        entry->setShortcut(QKeySequence(Qt::ALT | static_cast<Qt::Key>(Qt::Key_1 + i)));
+        connect(entry, &QAction::triggered, this, [this, i] { sort_by(i); });
+        sort_entries_.append(entry);
+    }
+    addActions(sort_entries_);
 }
 
 void Row_Table::show_changes() {

@@ -25,6 +25,8 @@ class Row_Table : public QTableView {
     void search(const QString& typed);
 
     Table_Model& table_model() { return *model_; }
+    /// For each column an entry of a menu, with keys, that does what a click on its header does.
+    const QList<QAction*>& sort_entries() const { return sort_entries_; }
     /// Selects in the view what is selected in the table, as far as it is in sight.
     void restore_selection();
     /// Paints why nothing is to be seen, while there are no rows.
@@ -39,6 +41,7 @@ class Row_Table : public QTableView {
     static constexpr int none = -1;
 
     void set_up_columns();
+    void add_sort_entries();
     void show_changes();
     void report_selection();
     void sort_by(int column);
@@ -49,6 +52,7 @@ class Row_Table : public QTableView {
     Table& table_;
     Table_Model* model_;
     QString empty_text_;
+    QList<QAction*> sort_entries_;
     int rows_ = 0;  // how many there were when last looked
     int scrolls_ = 0;
     int sorted_column_ = none;  // which a click has sorted, while no other rows have come

@@ -25,11 +25,10 @@ Search_Box::Search_Box(Row_Table& table, const QString& looks_for, QWidget* pare
     setToolTip(QStringLiteral("Shows the rows with this text (Ctrl+F)"));
     setMinimumWidth(least_width);
     setMaximumWidth(most_width);
-    addAction(themed_icon(QStringLiteral("search"), Ink::muted), LeadingPosition);
     setTextMargins(less_space_behind_the_icon, 0, 0, 0);
     auto* const clear =
         addAction(themed_icon(QStringLiteral("clear"), Ink::muted), TrailingPosition);
-    clear->setToolTip(QStringLiteral("Clear"));
+    clear->setText(QStringLiteral("Clear"));
     clear->setVisible(false);
     connect(clear, &QAction::triggered, this, &QLineEdit::clear);
     auto* const escape = new QShortcut(Qt::Key_Escape, &table);
@@ -44,7 +43,9 @@ Search_Box::Search_Box(Row_Table& table, const QString& looks_for, QWidget* pare
     // A box that is not shown does not listen.
     find_->setObjectName(QStringLiteral("find"));
     find_->setShortcut(QKeySequence::Find);
-    QWidget::addAction(find_);
+    find_->setIcon(themed_icon(QStringLiteral("search"), Ink::muted));
+    find_->setIconVisibleInMenu(false);
+    addAction(find_, LeadingPosition);
     connect(find_, &QAction::triggered, this, [this] {
         setFocus(Qt::ShortcutFocusReason);
         selectAll();

@@ -56,6 +56,8 @@ QLayout* Section_Page::title_row() {
     if (pictures_) row->addLayout(view_switch());
     auto* const search = new Search_Box(*table_, shown(section_.search_text), this);
     menu_entries_.append(search->find());
+    add_separator_to_menu();
+    menu_entries_.append(table_->sort_entries());
     row->addWidget(search, 1);
     return row;
 }

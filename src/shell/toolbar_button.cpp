@@ -33,6 +33,7 @@ void Toolbar_Button::set_caption_colour(const QColor& colour) {
 
 void Toolbar_Button::set_current(bool current) {
     current_ = current;
+    setAccessibleDescription(current ? QStringLiteral("Shown now") : QString());
     update();
 }
 

@@ -70,6 +70,9 @@ QLayout* one_line(const QString& line) {
     if (command) {
         words->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
         words->setProperty("command", true);
+        words->setObjectName(QStringLiteral("command"));
+        words->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+        words->setFocusPolicy(Qt::StrongFocus);
     }
     row->addWidget(words, 1);
     return row;
@@ -150,6 +153,7 @@ QWidget* finding_of(Connection_View& view, const Window_Parts& parts) {
     finding->setAccessibleDescription(QStringLiteral("What Velk sees now"));
     Label& trouble = view.m_LB_Trouble;
     bind_text(parts.binding, trouble, finding);
+    announce(parts.binding, trouble, finding);
     parts.binding.bind(trouble, finding,
                        [&trouble, finding] { finding->setHidden(trouble.text().empty()); });
     return finding;

@@ -82,6 +82,7 @@ QWidget* Velk_Window::port_line() {
     Label& trouble = document_.m_LB_Port;
     bind_text(binding_, trouble, line);
     binding_.bind(trouble, line, [&trouble, line] { line->setHidden(trouble.text().empty()); });
+    announce(binding_, trouble, line);
     return line;
 }
 
@@ -92,9 +93,7 @@ QWidget* Velk_Window::status_strip() {
     auto* const row = new QHBoxLayout(strip);
     row->setContentsMargins(space_between, 6, space_between, 6);
     row->setSpacing(small_space);
-    auto* const status = new Text_Label(strip);
-    status->set_sentence();
-    status->setAccessibleDescription(QStringLiteral("Status"));
+    Text_Label* const status = status_line(binding_, document_.m_LB_ps, strip);
     auto* const spinner = new Busy_Spinner(strip);
     auto* const busy = new Text_Label(strip);
     busy->set_room(0, 48);
@@ -104,8 +103,8 @@ QWidget* Velk_Window::status_strip() {
     row->addWidget(busy);
     strip->setMinimumHeight(30);
     Label& waits = document_.busy.m_LB_Busy;
-    bind_label(binding_, document_.m_LB_ps, status);
     bind_label(binding_, waits, busy);
+    announce(binding_, waits, busy);
     binding_.bind(waits, spinner, [&waits, spinner] { spinner->set_busy(!waits.text().empty()); });
     return strip;
 }

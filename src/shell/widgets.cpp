@@ -1,5 +1,6 @@
 #include "shell/widgets.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QBoxLayout>
 #include <QLabel>
@@ -158,11 +159,35 @@ QAction* command_action(const Command& command, Guards& guards, QWidget* parent)
     return action;
 }
 
+// The captions stay as they are, without a mark in them.
+void give_keys(const QList<QAbstractButton*>& buttons) {
+    QString taken;
+    for (QAbstractButton* const button : buttons)
+        for (const QChar letter : button->text().toUpper()) {
+            if (!letter.isLetter() || taken.contains(letter)) continue;
+            taken += letter;
+            button->setShortcut(QKeySequence(Qt::ALT | static_cast<Qt::Key>(letter.unicode())));
+            break;
+        }
+}
+
+// The toolkit itself says that a label's name has changed. That alone is read to nobody who is
+// somewhere else on the window.
+void announce(Binding& binding, Label& outlet, QLabel* line) {
+    binding.bind(outlet, line, [line, told = line->text()]() mutable {
+        if (std::exchange(told, line->text()) == line->text()) return;
+        if (line->text().isEmpty() || !line->isVisible()) return;
+        QAccessibleEvent news(line, QAccessible::Alert);
+        QAccessible::updateAccessibility(&news);
+    });
+}
+
 Text_Label* status_line(Binding& binding, Label& outlet, QWidget* parent) {
     auto* const line = new Text_Label(parent);
     line->set_sentence();
     line->setAccessibleDescription(QStringLiteral("Status"));
     bind_label(binding, outlet, line);
+    announce(binding, outlet, line);
     return line;
 }
 
@@ -171,6 +196,7 @@ Text_Label* quiet_line(Binding& binding, Label& outlet, QWidget* parent) {
     line->set_sentence();
     make_quiet(line);
     bind_label(binding, outlet, line);
+    announce(binding, outlet, line);
     return line;
 }
 

@@ -1,6 +1,7 @@
 // How each kind of outlet is shown, and the few pieces that every page is built of.
 #pragma once
 
+#include <QList>
 #include <QString>
 #include <functional>
 #include <string>
@@ -64,11 +65,18 @@ void make_quiet(QLabel* label);
 /// The button of a command, without an icon where the command names none.
 QPushButton* command_button(const Command& command, Guards& guards, QWidget* parent);
 
+/// Gives each button a key: Alt with the first letter of its caption that none before it has.
+void give_keys(const QList<QAbstractButton*>& buttons);
+
 /// The menu entry of a command, with its keys.
 QAction* command_action(const Command& command, Guards& guards, QWidget* parent);
 
 /// A Refresh button as every page of the connection has one; disabled during an attempt.
 QPushButton* refresh_button(const Window_Parts& parts, std::function<void()> run);
+
+/// Has a screen reader told when the line, which shows the outlet already, comes to say something
+/// else.
+void announce(Binding& binding, Label& outlet, QLabel* line);
 
 /// The line in which a section or a dialog says how things stand.
 Text_Label* status_line(Binding& binding, Label& outlet, QWidget* parent);
