@@ -54,9 +54,9 @@ bool wait_until(const std::function<bool()>& condition) {
     return QTest::qWaitFor(condition, 10'000);
 }
 
-Open_Window::Open_Window() {
+Open_Window::Open_Window(const std::string& folder) {
     test_application();
-    document = std::make_unique<MainDocument>(desktop, "/nowhere");
+    document = std::make_unique<MainDocument>(desktop, folder);
     window = std::make_unique<Velk_Window>(*document, desktop);
     delegate = std::make_unique<DhAppDelegate>(
         *document, *window, desktop, DhAppDelegate::Places{QStringLiteral(":/option.cfg"), {}});

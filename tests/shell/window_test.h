@@ -1,5 +1,5 @@
 // A real window with a real document, for tests: the document's outlets are filled by hand, and
-// no phone and no tool is there.
+// no phone and no tool is there unless a test brings them.
 #pragma once
 
 #include <QAbstractButton>
@@ -24,7 +24,8 @@ bool wait_until(const std::function<bool()>& condition);
 
 class Open_Window {
   public:
-    Open_Window();
+    /// The folder is the program's, where its tools are.
+    explicit Open_Window(const std::string& folder = "/nowhere");
     ~Open_Window();
 
     /// The visible widget of that name; null when there is none.
