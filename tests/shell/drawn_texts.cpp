@@ -31,8 +31,7 @@ class Text_Engine : public QPaintEngine {
                            item.ascent() + item.descent());
         QRectF seen = state->transform().mapRect(place);
         if (!systemClip().isEmpty()) seen &= systemClip().boundingRect();
-        if (painter()->hasClipping())
-            seen = clipped(seen);
+        if (painter()->hasClipping()) seen = clipped(seen);
         texts.push_back({item.text(), seen.toAlignedRect(), state->pen().color(), {}});
     }
     Type type() const override { return User; }
