@@ -38,13 +38,12 @@ void tell_that_it_cannot_be_run(std::string_view program) {
 /// Turns the forked copy into the child. Other threads are gone here and may have held any lock,
 /// so there is nothing but system calls.
 [[noreturn]] void become(const Child_Command& command, char* const* arguments, int pipe,
-                         pid_t parent) {
+                         int nothing, pid_t parent) {
     ::prctl(PR_SET_PDEATHSIG, SIGTERM);
     if (::getppid() != parent) ::_exit(status_of_a_missing_program);
 
     // A copy above the standard streams, so that none of them is in the way of another.
     const int captured = ::fcntl(pipe, F_DUPFD, 3);
-    const int nothing = ::open("/dev/null", O_RDONLY | O_CLOEXEC);
     if (!command.shares_input) ::dup2(nothing, STDIN_FILENO);
     if (command.captures_output) ::dup2(captured, STDOUT_FILENO);
     if (command.captures_errors) ::dup2(captured, STDERR_FILENO);
@@ -67,13 +66,15 @@ pid_t start(const Child_Command& command, int pipe) {
     for (std::string& word : words) arguments.push_back(word.data());
     arguments.push_back(nullptr);
 
+    // Not opened in the copy: a library that stands before the system's open() may need a lock.
+    const Descriptor nothing(::open("/dev/null", O_RDONLY | O_CLOEXEC));
     sigset_t all;
     sigset_t before;
     ::sigfillset(&all);
     ::pthread_sigmask(SIG_SETMASK, &all, &before);
     const pid_t parent = ::getpid();
     const pid_t child = ::fork();
-    if (child == 0) become(command, arguments.data(), pipe, parent);
+    if (child == 0) become(command, arguments.data(), pipe, nothing.number(), parent);
     ::pthread_sigmask(SIG_SETMASK, &before, nullptr);
     return child;
 }
