@@ -6,6 +6,7 @@
 #include <QAction>
 #include <QComboBox>
 #include <QHeaderView>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
@@ -19,6 +20,7 @@
 
 #include "drawn_texts.h"
 #include "shell/look.h"
+#include "shell/text_label.h"
 
 namespace velk {
 
@@ -227,6 +229,25 @@ QStringList pale_texts(QWidget& window) {
             found << QStringLiteral("%1 (%2 on %3: %4)")
                          .arg(one.text, one.ink.name(), one.ground.name())
                          .arg(stands_out);
+    }
+    return found;
+}
+
+QStringList clipped_texts(QWidget& window) {
+    QStringList found;
+    for (auto* const widget : window.findChildren<QWidget*>()) {
+        const auto* const label = qobject_cast<QLabel*>(widget);
+        const auto* const button = qobject_cast<QAbstractButton*>(widget);
+        const QString text = label ? label->text() : button ? button->text() : QString();
+        // A button inside a field shows its picture alone.
+        const bool is_a_sign = qobject_cast<QLineEdit*>(widget->parentWidget());
+        if (!widget->isVisible() || text.isEmpty() || is_a_sign ||
+            qobject_cast<Text_Label*>(widget))
+            continue;
+        const QSize hint = widget->sizeHint();
+        const bool wraps = widget->hasHeightForWidth();
+        const int height = wraps ? widget->heightForWidth(widget->width()) : hint.height();
+        if (widget->height() < height || (!wraps && widget->width() < hint.width())) found << text;
     }
     return found;
 }

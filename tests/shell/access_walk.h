@@ -19,6 +19,10 @@ QStringList shared_keys(QWidget& window);
 /// Texts of what is enabled that do not stand out from their ground.
 QStringList pale_texts(QWidget& window);
 
+/// What is not as large as its text needs it to be. Labels that shorten their text do so on
+/// purpose.
+QStringList clipped_texts(QWidget& window);
+
 /// The controls that Tab leads through, from the first to where it starts again.
 QList<QWidget*> tab_path(QWidget& window);
 

@@ -21,11 +21,10 @@ namespace {
 
 using Check = QStringList (*)(QWidget&);
 
-const std::pair<const char*, Check> checks[] = {{"no name", nameless},
-                                                {"no way by keys", without_keys},
-                                                {"Tab jumps", jumps_of_tab},
-                                                {"keys of two", shared_keys},
-                                                {"pale", pale_texts}};
+const std::pair<const char*, Check> checks[] = {
+    {"no name", nameless},       {"no way by keys", without_keys},
+    {"Tab jumps", jumps_of_tab}, {"keys of two", shared_keys},
+    {"pale", pale_texts},        {"clipped", clipped_texts}};
 
 /// Dresses the application in a theme of the desktop's, and back when it goes.
 class Theme {
@@ -55,6 +54,15 @@ class Access_Walk : public testing::TestWithParam<bool> {
     static void walk(QWidget& window, const std::string& where) {
         for (const auto& [what, check] : checks)
             EXPECT_EQ(check(window).join(" | ").toStdString(), "") << what << " in " << where;
+    }
+    /// In the smallest window and in a large one.
+    void walk_page(const std::string& where) {
+        for (const QSize size : {QSize(1920, 1080), QSize(900, 600)}) {
+            open.window->resize(size);
+            open.turn();
+            EXPECT_EQ(open.window->size(), size) << where;
+            walk(*open.window, where);
+        }
     }
     void walk_box(const std::string& where) {
         open.turn();
@@ -88,7 +96,7 @@ class Access_Walk : public testing::TestWithParam<bool> {
         show(id);
         open.find<QTableView>(source.m_table.name().c_str())->selectRow(0);
         open.turn();
-        walk(*open.window, "view " + std::to_string(id));
+        walk_page("view " + std::to_string(id));
     }
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::ControlModifier) {
         QWidget* const box = QApplication::activeModalWidget();
@@ -104,12 +112,12 @@ INSTANTIATE_TEST_SUITE_P(Themes, Access_Walk, testing::Bool(),
                          [](const auto& theme) { return theme.param ? "dark" : "light"; });
 
 TEST_P(Access_Walk, leads_through_every_view) {
-    walk(*open.window, "the start beside the summary");
+    walk_page("the start beside the summary");
     open.document->m_LB_Port.set_text("Another program has the port.");
     for (const int view : {DEFINE_VIEW_Start, DEFINE_VIEW_AllowPCConnect,
                            DEFINE_VIEW_SettingPhoneUSB, DEFINE_NULL}) {
         show(view);
-        walk(*open.window, "view " + std::to_string(view));
+        walk_page("view " + std::to_string(view));
     }
     show_rows<View_Contacts>(DEFINE_VIEW_Contacts);
     show_rows<View_SMS>(DEFINE_VIEW_SMS);
@@ -119,13 +127,13 @@ TEST_P(Access_Walk, leads_through_every_view) {
     show_rows<View_Book>(DEFINE_VIEW_Book);
     show_rows<View_Photo>(DEFINE_VIEW_Photo);
     press(Qt::Key_P);
-    walk(*open.window, "pictures");
+    walk_page("pictures");
     press(Qt::Key_F);
     QTest::keyClicks(open.window->focusWidget(), "nothing");
-    walk(*open.window, "a search in vain");
+    walk_page("a search in vain");
     press(Qt::Key_0);
     ASSERT_FALSE(open.document->m_Control_Box1.view());
-    walk(*open.window, "My Android");
+    walk_page("My Android");
 }
 
 TEST_P(Access_Walk, leads_through_every_menu) {
