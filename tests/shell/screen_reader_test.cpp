@@ -28,7 +28,11 @@ class Hearing_Plugin : public QAccessibleBridgePlugin {
     Q_PLUGIN_METADATA(IID QAccessibleBridgeFactoryInterface_iid FILE "hearing.json")
 
   public:
-    QAccessibleBridge* create(const QString&) override { return new Hearing; }
+    // The toolkit asks once, and never lets it go.
+    QAccessibleBridge* create(const QString&) override {
+        static QAccessibleBridge* const hearing = new Hearing;
+        return hearing;
+    }
 };
 
 class Screen_Reader : public testing::Test {
