@@ -28,10 +28,9 @@ bool person_lets_replace(Desktop& desktop, const std::string& path) {
 std::string choose_save_path(Desktop& desktop, const std::string& title,
                              const std::string& extension) {
     for (;;) {
-        const std::string name =
-            desktop.run_file_panel({.kind = File_Panel::Kind::save, .title = title});
-        if (name.empty()) return "";
-        const std::string path = name + "." + extension;
+        std::string path = desktop.run_file_panel({.kind = File_Panel::Kind::save, .title = title});
+        if (path.empty()) return "";
+        path.append(".").append(extension);
         if (!would_replace_a_file(path) || person_lets_replace(desktop, path)) return path;
         if (desktop.closing()) return "";
     }
