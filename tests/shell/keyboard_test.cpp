@@ -1,4 +1,6 @@
 // A whole session with the real window, the real adb and the demo phone, and nothing but keys.
+#include <gtest/gtest.h>
+
 #include <QApplication>
 #include <fstream>
 #include <iterator>
