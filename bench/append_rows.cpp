@@ -7,12 +7,9 @@
 #include <cstdlib>
 
 #include "base/text.h"
+#include "bench_window.h"
 #include "managers/contacts_tablesource.h"
 #include "pulse.h"
-#include "session/main_document.h"
-#include "shell/look.h"
-#include "shell/qt_desktop.h"
-#include "shell/velk_window.h"
 #include "ui/program_wide.h"
 #include "ui/worker.h"
 
@@ -34,26 +31,21 @@ int main(int argument_count, char** arguments) {
     const int rows = argument_count > 1 ? std::atoi(arguments[1]) : 20000;
     QApplication application(argument_count, arguments);
     QApplication::setQuitOnLastWindowClosed(false);
-    const velk::Look_Keeper look;
-    velk::Qt_Desktop desktop;
-    velk::MainDocument document(desktop);
-    velk::Velk_Window window(document, desktop);
-    window.resize(1280, 800);
-    window.show();
-    document.hidden_some(true);
-    document.displayViewController(velk::DEFINE_VIEW_Contacts);
+    velk::Bench_Window open;
+    open.document.hidden_some(true);
+    open.document.displayViewController(velk::DEFINE_VIEW_Contacts);
     velk::Contacts_TableSource& contacts = *velk::g_contacts_tablesource;
 
     velk::Pulse pulse;
     std::atomic<bool> ended = false;
     double total = 0;
-    QTimer::singleShot(200, &window, [&] {  // the window has been drawn by then
+    QTimer::singleShot(200, &open.window, [&] {  // the window has been drawn by then
         const auto begun = velk::Clock::now();
         velk::Worker::start("pulse", [&] { pulse.beat_until(ended); });
         velk::Worker::start("rows", [&, begun] {
             for (int number = 1; number <= rows; ++number)
-                desktop.post([&contacts, number] { append(contacts, number); });
-            desktop.post([&, begun] {
+                open.desktop.post([&contacts, number] { append(contacts, number); });
+            open.desktop.post([&, begun] {
                 total = velk::milliseconds_since(begun);
                 ended = true;
                 QTimer::singleShot(100, &application, &QApplication::quit);

@@ -20,15 +20,12 @@
 
 #include "agent/channel.h"
 #include "base/trace.h"
+#include "bench_window.h"
 #include "figures.h"
 #include "managers/file_panes.h"
 #include "managers/sms_tablesource.h"
 #include "pulse.h"
-#include "session/main_document.h"
 #include "session/section_views.h"
-#include "shell/look.h"
-#include "shell/qt_desktop.h"
-#include "shell/velk_window.h"
 #include "ui/program_wide.h"
 #include "ui/worker.h"
 
@@ -180,27 +177,22 @@ int main(int argument_count, char** arguments) {
     const int photos = argument_count > 2 ? std::atoi(arguments[2]) : 20000;
     velk::figures();
     QApplication application(argument_count, arguments);
-    const velk::Look_Keeper look;
-    velk::Qt_Desktop desktop;
-    velk::MainDocument document(desktop);
-    velk::Velk_Window window(document, desktop);
-    window.resize(1280, 800);
-    window.show();
-    auto& photo_section = source_of<velk::View_Photo>(document, velk::DEFINE_VIEW_Photo);
+    velk::Bench_Window open;
+    auto& photo_section = source_of<velk::View_Photo>(open.document, velk::DEFINE_VIEW_Photo);
     while (photo_section.is_loading()) QCoreApplication::processEvents();  // finds no phone yet
     print_memory("before");
     serve({{47, message_list(messages)}, {118, photo_list(photos)}});
-    document.hidden_some(true);
+    open.document.hidden_some(true);
 
-    document.displayViewController(velk::DEFINE_VIEW_Photo);
+    open.document.displayViewController(velk::DEFINE_VIEW_Photo);
     QCoreApplication::processEvents();
     measure_load("photos", photo_section, velk::Photo_TableSource::g_can_click_sms_load);
-    page_through_pictures(window, photos);
+    page_through_pictures(open.window, photos);
     measure_load("photos, shown as pictures", photo_section,
                  velk::Photo_TableSource::g_can_click_sms_load);
     measure_sort("photos", photo_section.m_table);
 
-    document.displayViewController(velk::DEFINE_VIEW_SMS);
+    open.document.displayViewController(velk::DEFINE_VIEW_SMS);
     QCoreApplication::processEvents();
     velk::SMS_TableSource& section = *velk::g_sms_tablesource;
     measure_load("messages", section, velk::g_can_click_sms_load);

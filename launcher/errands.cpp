@@ -91,8 +91,8 @@ int run_devices(const std::string& tool, const Command_Line& call) {
     return status;
 }
 
-/// A line of it begins so; elsewhere stand names of files.
-bool has_line_with(const std::string& said, const std::string& beginning) {
+/// Only a line that begins so is the tool speaking; elsewhere stand names of files.
+bool has_line_that_begins(const std::string& said, const std::string& beginning) {
     return said.starts_with(beginning) || said.find("\n" + beginning) != std::string::npos ||
            said.find("\r" + beginning) != std::string::npos;
 }
@@ -107,7 +107,8 @@ int run_pull(const std::string& tool, const Command_Line& call) {
     std::string said;
     int status = pull(tool, call, {"pull", "-a"}, said);  // the file keeps its date
     // On a disk that keeps no dates the tool fails behind a whole copy, and does not say why.
-    if (status != 0 && has_line_with(said, "[100%]") && !has_line_with(said, "adb: error:")) {
+    if (status != 0 && has_line_that_begins(said, "[100%]") &&
+        !has_line_that_begins(said, "adb: error:")) {
         said.clear();
         status = pull(tool, call, {"pull"}, said);
     }
