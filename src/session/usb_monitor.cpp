@@ -136,6 +136,7 @@ void Usb_Monitor::take_events() {
     Devices messages;
     while (Device device{udev_monitor_receive_device(monitor_.get())}) {
         const std::string_view action = view(udev_device_get_action(device.get()));
+        note_going(device.get(), action == "remove");
         if (action == "add") {
             if (is_arrival(device.get())) arrivals.push_back(std::move(device));
             continue;
@@ -147,6 +148,15 @@ void Usb_Monitor::take_events() {
     }
     deliver(arrivals, messages);
     changed_();
+}
+
+// A device stands in the device tree for a moment after the news of its going.
+void Usb_Monitor::note_going(udev_device* device, bool gone) {
+    const std::lock_guard lock(guard_);
+    if (gone)
+        going_.insert(udev_device_get_syspath(device));
+    else
+        going_.erase(udev_device_get_syspath(device));
 }
 
 bool Usb_Monitor::concerns_us(udev_device* device, const Devices& arrivals) const {
@@ -267,8 +277,10 @@ std::vector<Usb_Phone> Usb_Monitor::phones() const {
         else if (device && offers_files(interface.get()))
             phone_at(device);
     }
+    const std::lock_guard lock(guard_);
     std::vector<Usb_Phone> phones;
-    for (auto& [place, phone] : found) phones.push_back(std::move(phone));
+    for (auto& [place, phone] : found)
+        if (!going_.contains(place)) phones.push_back(std::move(phone));
     return phones;
 }
 

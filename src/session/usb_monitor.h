@@ -4,6 +4,8 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <mutex>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -72,6 +74,7 @@ class Usb_Monitor {
 
     void listen();
     void take_events();
+    void note_going(udev_device* device, bool gone);
     bool concerns_us(udev_device* device, const Devices& arrivals) const;
     bool is_arrival(udev_device* device);
     void deliver(Devices& arrivals, Devices& messages);
@@ -85,6 +88,8 @@ class Usb_Monitor {
     Desktop::Watch watch_;
     int listening_failed_ = 0;  // the reason, as errno has it
     Records records_;
+    mutable std::mutex guard_;     // of what follows
+    std::set<std::string> going_;  // places whose device has been told to go
 };
 
 }  // namespace velk

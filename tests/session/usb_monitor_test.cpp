@@ -224,6 +224,9 @@ TEST_F(Usb_Monitor_Test, says_anew_what_stands_in_the_way_when_the_bus_changes) 
     bus.say(fern, "bind");
     desktop.pump_until([&] { return view.m_LB_Trouble.text().starts_with("There") == false; });
     EXPECT_THAT(view.m_LB_Trouble.text(), HasSubstr("70-velk.rules"));
+    bus.say(fern, "remove");  // the news of its going comes before it is gone
+    desktop.pump_until([&] { return view.m_LB_Trouble.text().starts_with("There"); });
+    EXPECT_THAT(view.m_LB_Trouble.text(), HasSubstr("no phone on the USB bus"));
 }
 
 TEST_F(Usb_Monitor_Test, ends_with_status_0_on_ctrl_c) {
