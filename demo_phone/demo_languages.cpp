@@ -166,7 +166,7 @@ constexpr Word emoji_closings[] = {"😘", "🙈", ""};
 #define VELK_WORDS(name) name##_given, name##_family
 #define VELK_TEXTS(name) name##_greetings, name##_sentences, name##_closings
 
-constexpr Demo_Language languages[] = {
+constexpr Demo_Language all_languages[] = {
     {"+44 7700 9", VELK_WORDS(english), false, " ", VELK_TEXTS(english)},
     {"+49 151 23", VELK_WORDS(german), false, " ", VELK_TEXTS(german)},
     {"+33 6 39 98 ", VELK_WORDS(french), false, " ", VELK_TEXTS(french)},
@@ -188,7 +188,7 @@ constexpr Demo_Language languages[] = {
 }  // namespace
 
 std::span<const Demo_Language> demo_languages() {
-    return languages;
+    return all_languages;
 }
 
 }  // namespace velk

@@ -14,7 +14,7 @@ namespace {
 constexpr std::pair<const char*, const char*> ports[] = {
     {"12300", "12186"}, {"12301", "12176"}, {"12302", "12166"}, {"12303", "12156"}};
 
-std::string logged(std::string result) {
+std::string traced(std::string result) {
     log_line("%s", result.c_str());
     return result;
 }
@@ -44,54 +44,54 @@ void Adb_Wrappers::get_adb_full_path() {
 }
 
 std::string Adb_Wrappers::get_current_app_path() {
-    return logged(directory_);
+    return traced(directory_);
 }
 
 std::string Adb_Wrappers::adb_devices() {
     const std::string tool = target().tool;
-    if (tool.empty()) return logged("[g_adb_tool_file length<=0]");
+    if (tool.empty()) return traced("[g_adb_tool_file length<=0]");
     ADB_Command().get_pwd();
-    return logged(ADB_Command().get_adb_device(tool));
+    return traced(ADB_Command().get_adb_device(tool));
 }
 
 std::string Adb_Wrappers::adb_start() {
     const std::string tool = target().tool;
     ADB_Command().get_pwd();
-    return logged(ADB_Command().get_adb_start(tool));
+    return traced(ADB_Command().get_adb_start(tool));
 }
 
 std::string Adb_Wrappers::adb_version() {
-    return logged(ADB_Command().get_adb_version(tool_beside_the_program()));
+    return traced(ADB_Command().get_adb_version(tool_beside_the_program()));
 }
 
 std::string Adb_Wrappers::adb_kill_server() {
-    return logged(ADB_Command().adb_kill_server(target().tool));
+    return traced(ADB_Command().adb_kill_server(target().tool));
 }
 
 std::string Adb_Wrappers::adb_uninstall_apk(const std::string& package) {
     const Target use = target();
-    return logged(ADB_Command().Uninstall_Apk_From_Android(use.tool, use.serial, package));
+    return traced(ADB_Command().Uninstall_Apk_From_Android(use.tool, use.serial, package));
 }
 
 std::string Adb_Wrappers::adb_install_apk(const std::string& path) {
     const Target use = target();
     log_line("%s", path.c_str());
-    return logged(ADB_Command().Install_Apk_To_Android(use.tool, use.serial, path));
+    return traced(ADB_Command().Install_Apk_To_Android(use.tool, use.serial, path));
 }
 
 std::string Adb_Wrappers::adb_run_apk(const std::string& component) {
     const Target use = target();
-    return logged(ADB_Command().Launch_apk_in_Phone(use.tool, use.serial, component));
+    return traced(ADB_Command().Launch_apk_in_Phone(use.tool, use.serial, component));
 }
 
 std::string Adb_Wrappers::adb_broadcast() {
     const Target use = target();
-    return logged(ADB_Command().Broadcast_To_openUSBConnect(use.tool, use.serial));
+    return traced(ADB_Command().Broadcast_To_openUSBConnect(use.tool, use.serial));
 }
 
 std::string Adb_Wrappers::adb_mobile_phone_tcp(const std::string& tcp1, const std::string& tcp2) {
     const Target use = target();
-    return logged(ADB_Command().Launch_apk_in_Phone(use.tool, use.serial, tcp1, tcp2));
+    return traced(ADB_Command().Launch_apk_in_Phone(use.tool, use.serial, tcp1, tcp2));
 }
 
 void Adb_Wrappers::adb_tcp_in_mobile_phone_all() {

@@ -8,33 +8,29 @@
 
 namespace velk {
 
-namespace {
-
-/// Something that one thread waits for.
-class Awaited {
-  public:
-    void wait() {
-        std::unique_lock lock(mutex_);
-        wake_.wait(lock, [this] { return has_come_; });
-    }
-    void come() {
-        const std::lock_guard lock(mutex_);
-        has_come_ = true;
-        wake_.notify_all();
-    }
-
-  private:
-    std::mutex mutex_;
-    std::condition_variable wake_;
-    bool has_come_ = false;
-};
-
-}  // namespace
-
 /// The other end of what is awaited. The wait also ends when nobody is left who could bring it
 /// about: the gate has closed and the queue has dropped the closure that held this.
 class Desktop::Promise {
   public:
+    /// Something that one thread waits for.
+    class Awaited {
+      public:
+        void wait() {
+            std::unique_lock lock(mutex_);
+            wake_.wait(lock, [this] { return has_come_; });
+        }
+        void come() {
+            const std::lock_guard lock(mutex_);
+            has_come_ = true;
+            wake_.notify_all();
+        }
+
+      private:
+        std::mutex mutex_;
+        std::condition_variable wake_;
+        bool has_come_ = false;
+    };
+
     explicit Promise(std::shared_ptr<Awaited> awaited) : awaited_(std::move(awaited)) {}
     ~Promise() { keep(); }
     Promise(const Promise&) = delete;
@@ -61,7 +57,7 @@ void Desktop::run_and_wait(Closure closure) {
         closure();
         return;
     }
-    const auto done = std::make_shared<Awaited>();
+    const auto done = std::make_shared<Promise::Awaited>();
     // The closure refers to the waiting caller's locals: it is either run while the caller waits
     // or dropped, which lets the caller go.
     post([closure = std::move(closure), promise = std::make_shared<Promise>(done)] {
@@ -86,7 +82,7 @@ Answer Desktop::run_box(Answer when_closing,
     };
     const auto answered = std::make_shared<Answered>();
     answered->answer = std::move(when_closing);
-    const auto done = std::make_shared<Awaited>();
+    const auto done = std::make_shared<Promise::Awaited>();
     post([this, open = std::move(open), answered, promise = std::make_shared<Promise>(done)] {
         std::erase_if(open_boxes_, [](const auto& box) { return box.expired(); });
         open_boxes_.push_back(promise);

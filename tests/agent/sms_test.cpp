@@ -11,15 +11,12 @@ namespace {
 using namespace std::string_literals;
 using SMS_RECORD = sock_apk::SMS_RECORD;
 
-std::string text(const std::string& bytes) {
-    return Agent_Double::number(bytes.size()) + bytes;
-}
 std::string two_bytes(std::size_t value) {
     return Agent_Double::number(value).substr(2);
 }
 std::string record(const std::string& tel, const std::string& body, std::size_t id) {
-    return text(tel) + text(body) + text("2024") + two_bytes(1) + Agent_Double::number(id) +
-           Agent_Double::number(5) + two_bytes(0);
+    return Agent_Double::field(tel) + Agent_Double::field(body) + Agent_Double::field("2024") +
+           two_bytes(1) + Agent_Double::number(id) + Agent_Double::number(5) + two_bytes(0);
 }
 std::string packet(const std::string& records) {
     return "\0/"s + Agent_Double::number(records.size() + 1) + "\0"s + records;

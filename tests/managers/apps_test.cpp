@@ -6,10 +6,10 @@ namespace {
 
 using testing::ElementsAre;
 
-enum Button { install, uninstall, refresh };
-
 class Apps : public Tool_Test {
   protected:
+    enum Button { install, uninstall, refresh };
+
     Apps() {
         finish();
         recorder.watch(apps.m_LB_message);
@@ -17,7 +17,7 @@ class Apps : public Tool_Test {
         std::string bytes(7, '\0');
         for (const char* text :
              {"1536", "x", "Moss", "a.moss", "1.0", "y", "10", "", "Fern", "a.fern", "2.0", ""})
-            bytes += field(text);
+            bytes += Agent_Double::field(text);
         agent.reply_to(116, bytes);
     }
     ~Apps() override {

@@ -15,10 +15,9 @@ namespace {
 using namespace std::string_literals;
 using testing::ElementsAre;
 
-enum Button { add, remove, save };
-
 class File_Panes : public Tool_Test {
   protected:
+    enum Button { add, remove, save };
     struct Case {
         File_TableSource& pane;
         int code;
@@ -42,6 +41,7 @@ class File_Panes : public Tool_Test {
 
     /// Loads files with these paths and the ids 7, 8 ..., and selects them all.
     void load(const Case& each, const Lines& paths) {
+        const auto field = Agent_Double::field;
         std::string bytes(7, '\0');
         std::size_t id = 7;
         for (const std::string& path : paths) {

@@ -103,7 +103,8 @@ TEST_F(SMS_Section, exports_a_page_and_says_why_it_could_not) {
 }
 
 TEST(SMS_Plain_Text, lists_the_messages_from_the_last_to_the_first) {
-    EXPECT_EQ(sms_plain_text({row_of({"5", "a\nb", "d", "1", "", "", ""}, 1), {}}, "now"),
+    EXPECT_EQ(sms_plain_text(
+                  {row_of(sock_apk::SMS_RECORD{"5", "a\nb", "d", "1", "", "", ""}, 1), {}}, "now"),
               "now\n\n(1)\n         [][]\n\n\n\n(2)\n5         [d][Inbox]\n\na\nb\n");
 }
 

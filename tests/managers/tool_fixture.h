@@ -16,9 +16,6 @@ class Tool_Test : public Manager_Test {
         g_device_serial_number = "R58 M";
     }
 
-    static std::string field(const std::string& bytes) {
-        return Agent_Double::number(bytes.size()) + bytes;
-    }
     /// What was shown, up to the begin of a load.
     Lines lines_before_the_load() const {
         const Lines& all = recorder.lines();

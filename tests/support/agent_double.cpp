@@ -12,12 +12,13 @@
 #include <csignal>
 #include <cstring>
 
+#include "support/patience.h"
+
 namespace velk {
 
 namespace {
 
 constexpr std::uint16_t port = 12300;
-constexpr std::chrono::seconds longer_than_needed{60};
 
 int listen_on_port() {
     const int listener = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
@@ -43,10 +44,6 @@ void send_all(int descriptor, std::string_view bytes) {
 
 int code_of(const std::string& request) {
     return static_cast<unsigned char>(request.front());
-}
-
-std::string field(const std::string& text) {
-    return Agent_Double::number(text.size()) + text;
 }
 
 }  // namespace
@@ -176,6 +173,10 @@ std::string Agent_Double::number(std::size_t value) {
     std::string bytes;
     for (int shift = 24; shift >= 0; shift -= 8) bytes += static_cast<char>(value >> shift & 0xFF);
     return bytes;
+}
+
+std::string Agent_Double::field(const std::string& bytes) {
+    return number(bytes.size()) + bytes;
 }
 
 Agent_Double::Reply Agent_Double::value(const std::string& text) {

@@ -81,6 +81,8 @@ class Agent_Double {
     static Reply in_pieces(const std::string& bytes, std::size_t length);
     /// A number as the agent writes it: four bytes, most significant first.
     static std::string number(std::size_t value);
+    /// A text as the agent writes it: the number of its bytes, and the bytes.
+    static std::string field(const std::string& bytes);
 
   private:
     struct Conversation {

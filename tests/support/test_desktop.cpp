@@ -8,6 +8,7 @@
 
 #include "base/interruptor.h"
 #include "base/text.h"
+#include "support/patience.h"
 #include "ui/dialog.h"
 #include "ui/worker.h"
 
@@ -15,7 +16,6 @@ namespace velk {
 
 namespace {
 
-constexpr std::chrono::seconds longer_than_needed{60};
 /// How often a condition is looked at that no posted closure brings about.
 constexpr std::chrono::milliseconds look_again{2};
 

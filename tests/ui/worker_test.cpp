@@ -10,11 +10,10 @@
 #include <thread>
 
 #include "base/interruptor.h"
+#include "support/patience.h"
 
 namespace velk {
 namespace {
-
-constexpr std::chrono::seconds longer_than_needed{60};
 
 class Workers : public testing::Test {
   protected:
