@@ -17,15 +17,15 @@ void Pane_Loads::take(std::vector<File_TableSource*> panes) {
 void Pane_Loads::start() {
     for (File_TableSource* const pane : panes_) pane->forget_list();
     wished_ = panes_;
+    outdated_ = panes_;
+    std::erase_if(outdated_, [](const auto* pane) { return !pane->is_loading(); });
     loading_ = nullptr;
     go_on();
 }
 
 void Pane_Loads::has_ended(File_TableSource* pane) {
-    if (pane == loading_) {
-        std::erase(wished_, pane);
-        loading_ = nullptr;
-    }
+    if (std::erase(outdated_, pane) == 0) std::erase(wished_, pane);
+    if (pane == loading_) loading_ = nullptr;
     go_on();
 }
 

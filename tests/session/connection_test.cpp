@@ -225,6 +225,22 @@ TEST_F(Session, loads_each_list_behind_an_attempt_also_where_an_earlier_load_sti
     EXPECT_THAT(Lines(codes.end() - 4, codes.end()), ElementsAre("115", "117", "119", "118"));
 }
 
+TEST_F(Session, loads_no_list_behind_an_attempt_that_a_person_has_refreshed_since) {
+    phone_is_fine();
+    std::promise<void> answer;
+    Agent_Double::Reply late;
+    late.pieces.push_back({"", answer.get_future().share()});
+    agent.reply_once_to(115, late);
+    document.OnBT_Refresh();
+    ASSERT_TRUE(desktop.pump_until([&] { return agent.codes().size() == 16; }));
+    dynamic_cast<View_Book&>(*document.m_views[DEFINE_VIEW_Book]).source.OnBT_Refresh();
+    ASSERT_TRUE(desktop.pump_until([] { return Worker::running() == 1; }));
+    answer.set_value();
+    desktop.finish_work();
+    const Lines codes = agent.codes();
+    EXPECT_THAT(Lines(codes.end() - 4, codes.end()), ElementsAre("115", "119", "118", "117"));
+}
+
 TEST_F(Session, returns_to_a_screen_without_phone_when_it_is_pulled_out) {
     phone_is_fine();
     refresh();
