@@ -28,6 +28,7 @@ pair() {
         "$(echo "$2 $3" | awk '{printf "%.3f", $1 / $2}')"
 }
 
+"$adb" shell mkdir -p "$on_phone" </dev/null # the rest of this script is on the standard input
 "$adb" push "$here/film.mp4" "$on_phone" >/dev/null
 for _ in $(seq "$PAIRS"); do
     pair push "$(seconds "$BENCH/copy_file" push "$here/film.mp4" "$on_phone")" \
