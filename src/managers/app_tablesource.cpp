@@ -5,7 +5,6 @@
 #include "base/trace.h"
 #include "bridge/adb_command.h"
 #include "managers/phone_tool.h"
-#include "ui/for_thread_var.h"
 #include "ui/program_wide.h"
 
 namespace velk {
@@ -109,10 +108,15 @@ void App_TableSource::OnBT_App_Install() {
 void App_TableSource::Install_Files(std::vector<std::string> paths) {
     start_guarded(desktop(), g_can_click_app_install, "install",
                   [this, paths = std::move(paths)](Held_Flag& installing) {
-                      for_each_told("Installing on the phone", paths,
-                                    [this](const std::string& path) { adb_install_apk(path); });
-                      show_change(installing);
+                      thread_do_install_function(paths, installing);
                   });
+}
+
+void App_TableSource::thread_do_install_function(const std::vector<std::string>& paths,
+                                                 Held_Flag& installing) {
+    for_each_told("Installing on the phone", paths,
+                  [this](const std::string& path) { adb_install_apk(path); });
+    show_change(installing);
 }
 
 void App_TableSource::adb_install_apk(const std::string& path) {
@@ -147,10 +151,15 @@ void App_TableSource::Delete_APP(const std::string& package) {
     arguments.m_contacts_import_file_name = package;
     start_guarded(desktop(), g_can_click_app_uninstall, "uninstall",
                   [this, arguments](Held_Flag& uninstalling) {
-                      const Busy_Note note = busy("Uninstalling from the phone");
-                      adb_uninstall_apk(arguments.m_contacts_import_file_name);
-                      show_change(uninstalling);
+                      thread_do_uninstall_function(arguments, uninstalling);
                   });
+}
+
+void App_TableSource::thread_do_uninstall_function(const For_Thread_Var& arguments,
+                                                   Held_Flag& uninstalling) {
+    const Busy_Note note = busy("Uninstalling from the phone");
+    adb_uninstall_apk(arguments.m_contacts_import_file_name);
+    show_change(uninstalling);
 }
 
 void App_TableSource::adb_uninstall_apk(const std::string& package) {

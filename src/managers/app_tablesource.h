@@ -8,6 +8,7 @@
 
 #include "managers/app_rows.h"
 #include "managers/table_source.h"
+#include "ui/for_thread_var.h"
 
 namespace velk {
 
@@ -54,6 +55,8 @@ class App_TableSource final : public Table_Source {
 
     // Workers.
     void TableView_FullData();
+    void thread_do_install_function(const std::vector<std::string>& paths, Held_Flag& installing);
+    void thread_do_uninstall_function(const For_Thread_Var& arguments, Held_Flag& uninstalling);
     void adb_install_apk(const std::string& path);
     void adb_uninstall_apk(const std::string& package);
     /// What ends an install and an uninstall.

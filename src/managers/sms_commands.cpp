@@ -47,14 +47,19 @@ void SMS_TableSource::SMSDeleteAll() {
 }
 
 void SMS_TableSource::sms_delete_all() {
-    for_each_told("Deleting", rows_on_the_screen(table_rows, m_table),
+    const int clears = desktop().ask([this] { return table_rows.clears(); });
+    const std::vector<SMS_TableSource_Column> tried = rows_on_the_screen(table_rows, m_table);
+    for_each_told("Deleting", tried,
                   [this](const SMS_TableSource_Column& row) { delete_one(row); });
-    post([this] {
+    post([this, clears, count = tried.size()] {
+        m_LB_sms_content.set_text("");
+        if (count == 0) return;  // what is there by now has come since, and stays
+        const bool some_were_not_tried = table_rows.clears() != clears || table_rows.size() > count;
         table_rows.clear();
         m_table.reload();
-        m_LB_sms_content.set_text("");
         // No load follows; one that is under way has lost its table.
         list_may_be_old();
+        if (some_were_not_tried) list_is_old_now();
     });
 }
 

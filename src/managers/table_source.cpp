@@ -69,7 +69,10 @@ void Table_Source::start_load(std::function<void()> load) {
 
 void Table_Source::list_may_be_old() {
     brings_an_old_list_ = !identity_.may_load;
-    if (!brings_an_old_list_) return;
+    if (brings_an_old_list_) list_is_old_now();
+}
+
+void Table_Source::list_is_old_now() {
     quiet.tell_of_list(list_is_old);
     table_is_stale();
 }

@@ -82,6 +82,8 @@ class Table_Source {
     /// Behind a change of the phone's list: a load under way may have missed it. Then what it
     /// brings counts as old, and the table as stale.
     void list_may_be_old();
+    /// Says that the table does not hold what the phone does, and that Refresh reads it again.
+    void list_is_old_now();
     /// What the quiet line says of a list that has come; see remark_on_list().
     std::string remark_on(int counted, std::size_t came) const {
         return remark_on_list(brings_an_old_list_, counted, came);

@@ -82,6 +82,44 @@ TEST_F(SMS_Section, deletes_all_one_by_one_in_their_order_and_reads_nothing_afte
     EXPECT_EQ(agent.codes().back(), "78");
 }
 
+TEST_F(SMS_Section, tells_of_messages_that_a_delete_all_took_from_the_table_untried) {
+    load_three();
+    std::promise<void> loaded;
+    Agent_Double::Reply late("ok");
+    late.pieces[0].gate = loaded.get_future().share();
+    agent.reply_once_to('N', late);
+    window.test_desktop.answer_alert(yes);
+    sms.OnBT_SMS_DeleteAll();
+    ASSERT_TRUE(window.test_desktop.pump_until([&] { return edits().size() == 1; }));
+    sms.OnBT_Refresh();
+    ASSERT_TRUE(window.test_desktop.pump_until([] { return g_can_click_sms_load == 1; }));
+    loaded.set_value();
+    finish();
+    EXPECT_EQ(edits().size(), 9U);
+    EXPECT_EQ(sms.table_rows.count(), 0);
+    EXPECT_EQ(g_table_sms_need_refresh, 1);
+    EXPECT_EQ(sms.quiet.m_LB_Quiet.text(), list_is_old);
+}
+
+TEST_F(SMS_Section, lets_a_load_go_on_behind_a_delete_all_of_nothing) {
+    Agent_Double::Reply late = Agent_Double::messages({{"1", "a", "d1"}});
+    std::promise<void> answer;
+    late.pieces[0].gate = answer.get_future().share();
+    agent.reply_to(47, late);
+    sms.OnBT_Refresh();
+    ASSERT_TRUE(window.test_desktop.pump_until([&] { return agent.requests().size() == 1; }));
+    sms.m_LB_sms_content.set_text("old");
+    window.test_desktop.answer_alert(yes);
+    sms.OnBT_SMS_DeleteAll();
+    ASSERT_TRUE(window.test_desktop.pump_until([] { return g_can_click_sms_delete_all == 1; }));
+    EXPECT_EQ(sms.m_LB_sms_content.text(), "");
+    answer.set_value();
+    finish();
+    EXPECT_EQ(sms.table_rows.count(), 1);
+    EXPECT_EQ(recorder.lines_of("title").size(), 1U);
+    EXPECT_EQ(sms.quiet.m_LB_Quiet.text(), "");
+}
+
 TEST_F(SMS_Section, exports_a_page_and_says_why_it_could_not) {
     const Temporary_Folder folder;
     load({{"5", "it's", "d", 1}, {"6", "\\'\r\xFF", "e", 2}});
