@@ -38,6 +38,13 @@ std::string_view attribute(udev_device* device, const char* name) {
     return view(udev_device_get_sysattr_value(device, name));
 }
 
+template <class Devices>
+bool has_same_place(const Devices& devices, udev_device* device) {
+    return std::any_of(devices.begin(), devices.end(), [device](const auto& other) {
+        return view(udev_device_get_syspath(other.get())) == udev_device_get_syspath(device);
+    });
+}
+
 bool is_watched(udev_device* device) {
     return attribute(device, "idVendor") == watched_vendor_text &&
            attribute(device, "idProduct") == watched_product_text;
@@ -129,8 +136,8 @@ void Usb_Monitor::listen() {
     watch_ = desktop_.watch(udev_monitor_get_fd(monitor_.get()), [this] { take_events(); });
 }
 
-// One call for all that come together, in the order of the events. What is said about one that has
-// just come waits until it has been told.
+// One call for all that come together. What is said about one of them waits until it has been told;
+// all else is told as it comes.
 void Usb_Monitor::take_events() {
     Devices arrivals;
     Devices messages;
@@ -139,14 +146,14 @@ void Usb_Monitor::take_events() {
         note_going(device.get(), action == "remove");
         if (action == "add") {
             if (is_arrival(device.get())) arrivals.push_back(std::move(device));
-            continue;
+        } else if (has_same_place(arrivals, device.get())) {
+            messages.push_back(std::move(device));
+        } else {
+            take_message(device.get());
         }
-        if (!concerns_us(device.get(), arrivals)) continue;
-        messages.push_back(std::move(device));
-        // It may come again within the same wake-up.
-        if (action == "remove") deliver(arrivals, messages);
     }
-    deliver(arrivals, messages);
+    if (!arrivals.empty()) DeviceAdded(arrivals);
+    for (const Device& device : messages) take_message(device.get());
     changed_();
 }
 
@@ -159,14 +166,6 @@ void Usb_Monitor::note_going(udev_device* device, bool gone) {
         going_.erase(udev_device_get_syspath(device));
 }
 
-bool Usb_Monitor::concerns_us(udev_device* device, const Devices& arrivals) const {
-    const char* const place = udev_device_get_syspath(device);
-    return records_.contains(place) ||
-           std::any_of(arrivals.begin(), arrivals.end(), [&](const Device& arrival) {
-               return view(udev_device_get_syspath(arrival.get())) == place;
-           });
-}
-
 bool Usb_Monitor::is_arrival(udev_device* device) {
     if (!is_watched(device)) return false;
     const auto record = records_.find(udev_device_get_syspath(device));
@@ -177,14 +176,15 @@ bool Usb_Monitor::is_arrival(udev_device* device) {
     return true;
 }
 
-void Usb_Monitor::deliver(Devices& arrivals, Devices& messages) {
-    if (!arrivals.empty()) DeviceAdded(std::exchange(arrivals, {}));
-    for (const Device& device : std::exchange(messages, {})) {
-        const auto record = records_.find(udev_device_get_syspath(device.get()));
-        if (record == records_.end()) continue;
-        const bool removed = view(udev_device_get_action(device.get())) == "remove";
-        DeviceNotification(record, removed ? Message::terminated : Message::other);
-    }
+// What is said of one that has gone and come again within one wake-up is of the earlier stay: then
+// the number is another.
+void Usb_Monitor::take_message(udev_device* device) {
+    const auto record = records_.find(udev_device_get_syspath(device));
+    if (record == records_.end()) return;
+    const dev_t number = udev_device_get_devnum(device);
+    if (number != 0 && number != record->second.deviceNumber) return;
+    const bool removed = view(udev_device_get_action(device)) == "remove";
+    DeviceNotification(record, removed ? Message::terminated : Message::other);
 }
 
 void Usb_Monitor::DeviceAdded(const Devices& iterator) {

@@ -75,9 +75,8 @@ class Usb_Monitor {
     void listen();
     void take_events();
     void note_going(udev_device* device, bool gone);
-    bool concerns_us(udev_device* device, const Devices& arrivals) const;
     bool is_arrival(udev_device* device);
-    void deliver(Devices& arrivals, Devices& messages);
+    void take_message(udev_device* device);
 
     static Devices find_devices(udev* context, const char* type, bool only_watched);
 

@@ -134,6 +134,30 @@ TEST_F(Usb_Monitor_Test, counts_arrivals_by_wake_up_and_every_other_message_of_a
     EXPECT_EQ(document->m_device_checked, 1);
 }
 
+TEST_F(Usb_Monitor_Test, tells_arrivals_of_one_wake_up_at_once_whatever_comes_between_them) {
+    const std::string phone = bus.plug({});
+    start_without_a_phone();
+    CaptureStdout();
+    bus.plug({.port = "1-2"});
+    bus.unplug(phone);
+    bus.plug({.port = "1-3"});
+    desktop.finish_work();
+    std::string said = GetCapturedStdout();
+    EXPECT_THAT(said, testing::StartsWith("Device removed.(100)\n"));
+    EXPECT_EQ(times(said, "Device added.(101)\n"), 2) << said;
+
+    CaptureStdout();
+    const std::string hasty = bus.plug({.port = "1-4"});
+    bus.unplug(hasty);
+    bus.plug({.port = "1-4"});
+    desktop.finish_work();
+    said = GetCapturedStdout();
+    EXPECT_EQ(times(said, "Device added.(102)\n"), 2) << said;
+    EXPECT_EQ(times(said, "Location ID: 0x1400000\n"), 1) << said;
+    bus.unplug(hasty);
+    listen(101);
+}
+
 TEST_F(Usb_Monitor_Test, does_not_take_a_phone_for_the_one_that_stood_in_its_place) {
     const std::string phone = bus.plug({});
     start_without_a_phone();
