@@ -23,12 +23,20 @@ constexpr std::chrono::milliseconds time_for_the_workers{700};
 constexpr const char* code_of_the_last_request = "90";
 constexpr double seconds_of_the_timer = 0.2;
 
+template <class View>
+File_TableSource* files_of(const std::unique_ptr<MainViewController>& view) {
+    return &static_cast<View&>(*view).source;
+}
+
 }  // namespace
 
 MainDocument::MainDocument(Desktop& desktop, const std::string& directory, Usb_Monitor* usb)
     : Adb_Wrappers(desktop, directory),
       desktop_(desktop),
-      lookout_(desktop, usb, directory, [this](const std::string& words) { say_trouble(words); }),
+      lookout_(desktop, usb, directory,
+               [this](const std::string& words) {
+                   if (g_can_click_refresh) say_trouble(words);
+               }),
       usb_(usb) {
     g_window = this;
     g_device = 100;
@@ -36,22 +44,16 @@ MainDocument::MainDocument(Desktop& desktop, const std::string& directory, Usb_M
     m_LevelIndicator_Size_Phone.set_value(0);
     m_LevelIndicator_Size_Storage.set_value(0);
     set_fixed_captions();
-    auto music = std::make_unique<View_Music>(*this);
-    auto photos = std::make_unique<View_Photo>(*this);
-    auto videos = std::make_unique<View_Video>(*this);
-    auto books = std::make_unique<View_Book>(*this);
-    pane_loads_.take({&music->source, &photos->source, &videos->source, &books->source});
-    m_views = {std::make_unique<View_Start>(),
-               std::make_unique<View_AllowPCConnect>(),
-               std::make_unique<View_Contacts>(*this),
-               std::make_unique<View_SMS>(*this),
-               std::make_unique<View_NULL>(),
-               std::make_unique<View_SettingPhoneUSB>(),
-               std::make_unique<View_App>(*this),
-               std::move(music),
-               std::move(photos),
-               std::move(videos),
-               std::move(books)};
+    m_views = {std::make_unique<View_Start>(),         std::make_unique<View_AllowPCConnect>(),
+               std::make_unique<View_Contacts>(*this), std::make_unique<View_SMS>(*this),
+               std::make_unique<View_NULL>(),          std::make_unique<View_SettingPhoneUSB>(),
+               std::make_unique<View_App>(*this),      std::make_unique<View_Music>(*this),
+               std::make_unique<View_Photo>(*this),    std::make_unique<View_Video>(*this),
+               std::make_unique<View_Book>(*this)};
+    pane_loads_.take({files_of<View_Music>(m_views[DEFINE_VIEW_Music]),
+                      files_of<View_Photo>(m_views[DEFINE_VIEW_Photo]),
+                      files_of<View_Video>(m_views[DEFINE_VIEW_Video]),
+                      files_of<View_Book>(m_views[DEFINE_VIEW_Book])});
     for (const auto& view : m_views) view->managedObjectContext = this;
     refresh_ini_ui();
     if (usb_) CheckDeviceExist();

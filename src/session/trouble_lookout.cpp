@@ -12,6 +12,7 @@ namespace velk {
 void Trouble_Lookout::adb_has_answered(std::string output) {
     answer_ = std::move(output);
     phones_at_the_answer_.reset();
+    look_again_ = looking_;  // that look is older than the answer
 }
 
 void Trouble_Lookout::look(const std::string& package) {

@@ -68,6 +68,7 @@ void Device_Strip::add_connection(const Window_Parts& parts) {
     lines->addWidget(connected);
     lines->addWidget(cable);
     bind_label(parts.binding, parts.document.m_LB_Connected, connected);
+    announce(parts.binding, parts.document.m_LB_Connected, connected);
     bind_label(parts.binding, parts.document.m_LB_USBConnect, cable);
     row_->addLayout(lines);
 }
