@@ -82,11 +82,11 @@ std::optional<Listed_Contact> contact_of(plist_t record) {
         plist_array_get_size(record) < texts_of_a_record)
         return std::nullopt;
     const char* texts[texts_of_a_record];
-    for (std::uint32_t i = 0; i < texts_of_a_record; ++i) {
+    for (std::uint32_t i = 0; i < texts_of_a_record; ++i)
         texts[i] = text_of(plist_array_get_item(record, i));
-        if (texts[i] == nullptr) return std::nullopt;
-    }
-    return Listed_Contact{texts[0], texts[1], texts[2]};
+    // The phone that takes the contact gives it an ID of its own.
+    if (texts[1] == nullptr || texts[2] == nullptr) return std::nullopt;
+    return Listed_Contact{texts[0] == nullptr ? "" : texts[0], texts[1], texts[2]};
 }
 
 /// How many levels a tag opens (-1 when it closes one). Comments and the like open none.

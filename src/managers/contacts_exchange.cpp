@@ -133,7 +133,7 @@ bool Contacts_TableSource::import_rows(std::string_view rows) {
                 m_LB_Message.set_text(format("Importing %s \n", name.c_str()));
             });
     }
-    return number > 0;
+    return number > 0 && !records.break_off();
 }
 
 // --- property list; no button asks for it ---

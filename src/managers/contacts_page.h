@@ -39,6 +39,8 @@ class Page_Records {
     bool next(Page_Contact& contact);
     /// True when the record just taken was the one that nothing follows.
     bool was_last() const { return was_last_; }
+    /// True when the rows break off within a record, as they do behind a name with "];".
+    bool break_off() const;
 
   private:
     std::string_view rows_;

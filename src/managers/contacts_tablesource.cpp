@@ -104,8 +104,8 @@ void Contacts_TableSource::TableView_FullData() {
         say(format("There are %zu contact(s) on your Mobile Phone.", count));
         quiet.tell_of_list(too_many ? contacts_are_too_many
                                     : remark_on(g_int_count_contacts, count));
-        refresh_button_contacts_title();
     });
+    post([this] { refresh_button_contacts_title(); });  // also behind an ended filling
 }
 
 }  // namespace velk

@@ -169,8 +169,9 @@ void Table_Source::fill_from_phone(Row_List<Row>& rows, Table& table,
     filling.post_while_mine([this, list, &rows, came] {
         say(format(list.loaded, came));
         quiet.tell_of_list(remark_on(list.counted, came));
-        show_count(rows.count());
     });
+    // Also behind a filling that someone ended: the number of an earlier list must not stay.
+    post([this, &rows] { show_count(rows.count()); });
 }
 
 template <class Row>

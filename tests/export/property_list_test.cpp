@@ -62,6 +62,10 @@ TEST(Property_List, WhatIsNotThereIsLeftOut) {
         {"no texts",
          list_of(count("<string>1</string>") + "<key>0</key><array><true/><true/><true/></array>"),
          0},
+        {"no text in place of the ID",
+         list_of(count("<string>1</string>") + "<key>0</key><array><integer>7</integer>" +
+                 "<string>Ann</string><string>5</string></array>"),
+         1},
         {"no array", list_of(count("<string>1</string>") + "<key>0</key><string>a</string>"), 0},
         {"deep", deep("<array><!--</array>-->"), {}},
         {"deep behind instructions", deep("<array><?x ><!-- ?>"), {}},

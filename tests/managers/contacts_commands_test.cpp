@@ -183,6 +183,7 @@ TEST_F(Contacts_Commands, ends_a_load_whose_table_a_delete_all_has_emptied) {
     finish();
     EXPECT_EQ(contacts.table_rows.count(), 0);
     EXPECT_EQ(status(), "Successfully deleted all contacts!");
+    EXPECT_EQ(recorder.lines_of("title").back(), "title 0: Contacts(0)");
     EXPECT_EQ(g_table_contacts_need_refresh, 1);  // that load may have missed the change
     EXPECT_THAT(quiet(), testing::StartsWith("The phone was changed while the list came."));
 }

@@ -95,6 +95,13 @@ TEST_F(Contacts_Exchange, imports_nothing_from_a_file_that_is_no_export_and_says
     EXPECT_THAT(edits(), testing::IsEmpty());
 }
 
+TEST_F(Contacts_Exchange, says_so_when_a_name_hides_the_contacts_behind_it) {
+    import(
+        "['ID','Name','Phone Number'],\n['1','Ann','5'],\n['2','x];y','6'],\n['3','Cat','7']\n];");
+    EXPECT_THAT(added(), ElementsAre("Ann*5*|"));
+    EXPECT_EQ(quiet(), "That file holds no contacts, or not all of its list.");
+}
+
 TEST_F(Contacts_Exchange, keeps_the_contacts_in_a_property_list) {
     load_three();
     const std::string file = folder.path("contacts.plist");
