@@ -5,7 +5,6 @@
 #include <QClipboard>
 #include <QHeaderView>
 #include <QHelpEvent>
-#include <QKeyEvent>
 #include <QPainter>
 #include <QStyledItemDelegate>
 #include <QToolTip>
@@ -93,6 +92,7 @@ Row_Table::Row_Table(Table& table, Binding& binding, QString empty_text, QWidget
     setVerticalScrollMode(ScrollPerPixel);
     setAccessibleDescription(empty_text_);
     set_up_columns();
+    add_selection_entries();
     add_sort_entries();
     connect(model_, &QAbstractItemModel::modelReset, this, &Row_Table::restore_selection);
     restore_selection();
@@ -122,6 +122,18 @@ void Row_Table::set_up_columns() {
 }
 
 // A table that is not shown does not listen.
+void Row_Table::add_selection_entries() {
+    auto* const all = new QAction(QStringLiteral("Select All"), this);
+    all->setShortcut(QKeySequence::SelectAll);
+    connect(all, &QAction::triggered, this, &QTableView::selectAll);
+    auto* const copy = new QAction(QStringLiteral("Copy"), this);
+    copy->setShortcut(QKeySequence::Copy);
+    connect(copy, &QAction::triggered, this, &Row_Table::copy_selection);
+    selection_entries_ = {all, copy};
+    for (QAction* const entry : selection_entries_) entry->setShortcutContext(Qt::WidgetShortcut);
+    addActions(selection_entries_);
+}
+
 void Row_Table::add_sort_entries() {
     for (int i = 0; i < model_->columnCount(); ++i) {
         const QString title = model_->headerData(i, Qt::Horizontal, Qt::DisplayRole).toString();
@@ -217,13 +229,6 @@ void Row_Table::copy_selection() const {
         text += cells.join(u'\t') + u'\n';
     }
     if (!text.isEmpty()) QApplication::clipboard()->setText(text);
-}
-
-void Row_Table::keyPressEvent(QKeyEvent* event) {
-    if (event->matches(QKeySequence::Copy))
-        copy_selection();
-    else
-        QTableView::keyPressEvent(event);
 }
 
 // The toolkit points at the first row when none is pointed at; that selects nothing.

@@ -25,6 +25,9 @@ class Row_Table : public QTableView {
     void search(const QString& typed);
 
     Table_Model& table_model() { return *model_; }
+    /// Entries of a menu that select all rows and copy the selected ones; their keys work in the
+    /// table alone.
+    const QList<QAction*>& selection_entries() const { return selection_entries_; }
     /// For each column an entry of a menu, with keys, that does what a click on its header does.
     const QList<QAction*>& sort_entries() const { return sort_entries_; }
     /// Selects in the view what is selected in the table, as far as it is in sight.
@@ -33,7 +36,6 @@ class Row_Table : public QTableView {
     void say_when_empty(QWidget* on) const;
 
   protected:
-    void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
@@ -41,6 +43,7 @@ class Row_Table : public QTableView {
     static constexpr int none = -1;
 
     void set_up_columns();
+    void add_selection_entries();
     void add_sort_entries();
     void show_changes();
     void report_selection();
@@ -52,6 +55,7 @@ class Row_Table : public QTableView {
     Table& table_;
     Table_Model* model_;
     QString empty_text_;
+    QList<QAction*> selection_entries_;
     QList<QAction*> sort_entries_;
     int rows_ = 0;  // how many there were when last looked
     int scrolls_ = 0;

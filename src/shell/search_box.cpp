@@ -2,7 +2,6 @@
 
 #include <QAction>
 #include <QKeyEvent>
-#include <QShortcut>
 
 #include "shell/pictures.h"
 #include "shell/row_table.h"
@@ -18,7 +17,10 @@ constexpr int less_space_behind_the_icon = -5;
 }  // namespace
 
 Search_Box::Search_Box(Row_Table& table, const QString& looks_for, QWidget* parent)
-    : QLineEdit(parent), table_(table), find_(new QAction(QStringLiteral("Find"), this)) {
+    : QLineEdit(parent),
+      table_(table),
+      find_(new QAction(QStringLiteral("Find"), this)),
+      show_all_(new QAction(QStringLiteral("Show All Rows"), this)) {
     setObjectName(table.objectName() + QStringLiteral("_search"));
     setAccessibleName(QStringLiteral("Search"));
     setPlaceholderText(looks_for.isEmpty() ? QStringLiteral("Search") : looks_for);
@@ -31,13 +33,14 @@ Search_Box::Search_Box(Row_Table& table, const QString& looks_for, QWidget* pare
     clear->setText(QStringLiteral("Clear"));
     clear->setVisible(false);
     connect(clear, &QAction::triggered, this, &QLineEdit::clear);
-    auto* const escape = new QShortcut(Qt::Key_Escape, &table);
-    escape->setContext(Qt::WidgetShortcut);
-    escape->setEnabled(false);
-    connect(escape, &QShortcut::activated, this, &QLineEdit::clear);
-    connect(this, &QLineEdit::textChanged, &table, [&table, clear, escape](const QString& typed) {
+    show_all_->setShortcut(Qt::Key_Escape);
+    show_all_->setShortcutContext(Qt::WidgetShortcut);
+    show_all_->setEnabled(false);
+    table.addAction(show_all_);
+    connect(show_all_, &QAction::triggered, this, &QLineEdit::clear);
+    connect(this, &QLineEdit::textChanged, &table, [this, &table, clear](const QString& typed) {
         clear->setVisible(!typed.isEmpty());
-        escape->setEnabled(!typed.isEmpty());
+        show_all_->setEnabled(!typed.isEmpty());
         table.search(typed);
     });
     // A box that is not shown does not listen.

@@ -17,6 +17,9 @@ class Search_Box : public QLineEdit {
 
     /// Leads into the box; its keys work wherever the box is shown.
     QAction* find() const { return find_; }
+    /// Empties the box; its key works in the table, and is of use while there is something to
+    /// empty.
+    QAction* show_all() const { return show_all_; }
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -26,6 +29,7 @@ class Search_Box : public QLineEdit {
 
     Row_Table& table_;
     QAction* find_;
+    QAction* show_all_;
 };
 
 }  // namespace velk

@@ -55,7 +55,12 @@ QLayout* Section_Page::title_row() {
     row->addStretch(1);
     if (pictures_) row->addLayout(view_switch());
     auto* const search = new Search_Box(*table_, shown(section_.search_text), this);
-    menu_entries_.append(search->find());
+    menu_entries_.append({search->find(), search->show_all()});
+    menu_entries_.append(table_->selection_entries());
+    if (pictures_) {
+        pictures_->addAction(search->show_all());
+        pictures_->addActions(table_->selection_entries());
+    }
     add_separator_to_menu();
     menu_entries_.append(table_->sort_entries());
     row->addWidget(search, 1);
