@@ -13,17 +13,19 @@ namespace {
 
 using Words = std::vector<std::string>;
 
-std::string output_of(Words words) {
+std::string output_of(Words words, int* status = nullptr) {
     std::string output;
-    run_child({.words = std::move(words)}, [&](std::string_view piece) { output += piece; });
+    const int ended =
+        run_child({.words = std::move(words)}, [&](std::string_view piece) { output += piece; });
+    if (status) *status = ended;
     return is_utf8(output) ? output : std::string();
 }
 
 std::string output_on_device(const std::string& tool, const std::string& serial,
-                             const Words& command) {
+                             const Words& command, int* status = nullptr) {
     Words words{tool, "-s", serial};
     words.insert(words.end(), command.begin(), command.end());
-    return output_of(std::move(words));
+    return output_of(std::move(words), status);
 }
 
 std::string logged(std::string output) {
@@ -80,8 +82,12 @@ std::string ADB_Command::Push_File_To_Android(const std::string& tool, const std
 
 std::string ADB_Command::Pull_File_To_Computer(const std::string& tool, const std::string& ModelID,
                                                const std::string& PhonePath,
-                                               const std::string& File) {
-    return logged(output_on_device(tool, ModelID, {"pull", PhonePath, File}));
+                                               const std::string& File, bool* cut_off) {
+    int status = 0;
+    std::string output =
+        logged(output_on_device(tool, ModelID, {"pull", PhonePath, File}, &status));
+    if (cut_off) *cut_off = status >= status_of_the_first_signal;
+    return output;
 }
 
 std::string ADB_Command::Broadcast_To_openUSBConnect(const std::string& tool,

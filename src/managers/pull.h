@@ -14,8 +14,8 @@ struct Pulled {
 };
 
 /// Copies the file into the folder, under its own name. Worker; blocks until the tool has ended,
-/// which closing the window makes it do. The copy counts as done when the tool printed nothing; a
-/// copy that is not there all the same has a reason.
+/// which closing the window makes it do. The copy counts as done when the tool printed nothing and
+/// ended by itself; a copy that is not there all the same has a reason.
 ///
 /// What bears that name in the folder already is moved aside meanwhile and has its name again
 /// afterwards; the new file becomes "name (2).jpg" then, with the first number that is free. What a

@@ -91,10 +91,11 @@ std::optional<std::string> Thumbnails::content_of(const Wish& wish, const Phone_
 std::optional<std::string> Thumbnails::fetched(const Wish& wish, const Phone_Tool& tool) {
     const Passing_File file(cache_.place_for_a_while());
     if (file.path.empty() || !wish.path.starts_with('/')) return std::nullopt;
+    bool cut_off = false;
     const std::string printed =
-        ADB_Command().Pull_File_To_Computer(tool.path, tool.serial, wish.path, file.path);
+        ADB_Command().Pull_File_To_Computer(tool.path, tool.serial, wish.path, file.path, &cut_off);
     std::error_code error;
-    const bool came = printed.empty() && !Interruptor::current().cancelled() &&
+    const bool came = printed.empty() && !cut_off && !Interruptor::current().cancelled() &&
                       fs::is_regular_file(fs::symlink_status(file.path, error));
     return came ? std::optional(outside_.shrink(file.path)) : std::nullopt;
 }
