@@ -4,7 +4,6 @@
 
 #include "base/trace.h"
 #include "bridge/adb_command.h"
-#include "managers/phone_tool.h"
 #include "ui/program_wide.h"
 
 namespace velk {
@@ -19,6 +18,13 @@ const Phone_List<sock_apk::APP_RECORD> phone_list = {
     .fetch = &sock_apk::send_command_get_app_list,
     .loaded = "There are %zu application(s) on your Mobile Phone.",
     .counted = g_int_count_apps};
+
+/// Why the tool failed; empty when it did not. The phone's own words differ from one to the next,
+/// save when all went well.
+std::string failure_of(const std::string& printed) {
+    const std::string line = last_line(printed);
+    return line == "Success" ? "" : line;
+}
 
 }  // namespace
 
@@ -115,11 +121,11 @@ void App_TableSource::Install_Files(std::vector<std::string> paths) {
 void App_TableSource::thread_do_install_function(const std::vector<std::string>& paths,
                                                  Held_Flag& installing) {
     for_each_told("Installing on the phone", paths,
-                  [this](const std::string& path) { adb_install_apk(path); });
+                  [this](const std::string& path) { return adb_install_apk(path); });
     show_change(installing);
 }
 
-void App_TableSource::adb_install_apk(const std::string& path) {
+Outcome App_TableSource::adb_install_apk(const std::string& path) {
     log_line("V1 == %s", path.c_str());
     post_status(format("Installing file '%s'.", path.c_str()));
     const Phone_Tool tool = phone_tool(desktop());
@@ -127,9 +133,10 @@ void App_TableSource::adb_install_apk(const std::string& path) {
     post_change();
     const std::string printed = ADB_Command().Install_Apk_To_Android(tool.path, tool.serial, path);
     log_line("%s", printed.c_str());
-    tell_failure(printed);
     // Whatever the tool printed; the quiet line has its reason.
     post_status("Installed Successfully!");
+    const std::string failure = failure_of(printed);
+    return {failure.empty(), failure};
 }
 
 // --- uninstall --------------------------------------------------------------------------------
@@ -169,18 +176,12 @@ void App_TableSource::adb_uninstall_apk(const std::string& package) {
     const std::string verdict =
         ADB_Command().Uninstall_Apk_From_Android(tool.path, tool.serial, package, &printed);
     log_line("%s", verdict.c_str());
-    tell_failure(printed);
+    const std::string failure = failure_of(printed);
+    if (!failure.empty()) post([this, failure] { quiet.tell_reason(failure); });
     post_status(verdict);
 }
 
 // --- both -------------------------------------------------------------------------------------
-
-void App_TableSource::tell_failure(const std::string& printed) {
-    // The phone's own words differ from one to the next, save when all went well.
-    const std::string failure = last_line(printed);
-    if (!failure.empty() && failure != "Success")
-        post([this, failure] { quiet.tell_reason(failure); });
-}
 
 void App_TableSource::show_change(Held_Flag& running) {
     post([this] { refresh_button_app_title(); });

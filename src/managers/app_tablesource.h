@@ -57,12 +57,10 @@ class App_TableSource final : public Table_Source {
     void TableView_FullData();
     void thread_do_install_function(const std::vector<std::string>& paths, Held_Flag& installing);
     void thread_do_uninstall_function(const For_Thread_Var& arguments, Held_Flag& uninstalling);
-    void adb_install_apk(const std::string& path);
+    Outcome adb_install_apk(const std::string& path);
     void adb_uninstall_apk(const std::string& package);
     /// What ends an install and an uninstall.
     void show_change(Held_Flag& running);
-    /// Tells quietly when that is why the tool failed.
-    void tell_failure(const std::string& printed);
 };
 
 }  // namespace velk

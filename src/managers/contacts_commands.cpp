@@ -58,10 +58,11 @@ void Contacts_TableSource::add_what_was_typed() {
     });
 }
 
-void Contacts_TableSource::Contacts_Add_One(const std::string& name,
+bool Contacts_TableSource::Contacts_Add_One(const std::string& name,
                                             const std::string& Tel_PhoneNumber) {
     const std::string id = Contacts_Add_To_APK(name, Tel_PhoneNumber);
     post([this, name, Tel_PhoneNumber, id] { Contacts_Add(name, Tel_PhoneNumber, id); });
+    return !id.empty();
 }
 
 std::string Contacts_TableSource::Contacts_Add_To_APK(const std::string& name,
@@ -91,7 +92,9 @@ void Contacts_TableSource::OnBT_ModifyContacts() {
     edit_dialog_->m_Edit_Name.set_text(row.col_name);
     edit_dialog_->m_Edit_PhoneNumber.set_text(row.col_phone_number);
     edit_dialog_->m_LB_ID.set_text(row.col_id);
-    desktop().open_dialog(*edit_dialog_, [this, id = row.col_id] { modify_as_typed(id); });
+    desktop().open_dialog(*edit_dialog_, [this, id = row.col_id, phone = g_device_serial_number] {
+        if (!edit_dialog_->bOK || is_still_in_use(phone)) modify_as_typed(id);
+    });
 }
 
 void Contacts_TableSource::modify_as_typed(const std::string& id) {
@@ -137,7 +140,7 @@ void Contacts_TableSource::OnBT_DeleteContacts() {
     ask_person(yes_or_no(delete_selected_question), [this] {
         run_command(desktop(), "delete contacts", [this] {
             const bool deleted = delete_selected(table_rows, m_table, [this](const auto& row) {
-                Contacts_Del_To_APK(row.col_id, row.col_name, row.col_phone_number);
+                return Outcome{Contacts_Del_To_APK(row.col_id, row.col_name, row.col_phone_number)};
             });
             if (deleted) post([this] { reload_after_a_change(); });
         });

@@ -25,7 +25,7 @@ constexpr const char* no_export = "That file is no exported list of contacts.";
 constexpr const char* no_rows = "That file holds no contacts, or not all of its list.";
 
 /// The file's text; nothing when it is not there or no text.
-std::optional<std::string> readFromFile(const std::string& path, const char*& reason) {
+std::optional<std::string> readFromFile(const std::string& path, std::string& reason) {
     std::error_code no_matter;
     log_line("%s",
              plain(std::filesystem::exists(path, no_matter) ? "file exist!" : "file not exist!"));
@@ -102,24 +102,24 @@ void Contacts_TableSource::thread_do_read_xml(const std::string& path) {
 
 bool Contacts_TableSource::read_html(const std::string& path) {
     const Busy_Note note = busy("Reading the file");
-    const char* reason = "";
+    std::string reason;
     const std::optional<std::string> text = readFromFile(path, reason);
-    if (text && !is_ContactsHtml(*text))
-        reason = no_export;
-    else if (text && !import_rows(getContactsFromHtml(*text)))
-        reason = no_rows;
+    if (text) reason = is_ContactsHtml(*text) ? import_rows(getContactsFromHtml(*text)) : no_export;
     post([this, reason] { quiet.tell_reason(reason); });
-    return *reason == '\0';
+    return reason.empty();
 }
 
-bool Contacts_TableSource::import_rows(std::string_view rows) {
+std::string Contacts_TableSource::import_rows(std::string_view rows) {
     log_line("%s", std::string(rows));
     Busy_Note note = busy("Importing contacts");
     Page_Records records(rows);
     Page_Contact contact;
-    int number = 0;
+    const std::string phone = phone_in_use(desktop());
+    std::size_t number = 0;
+    std::size_t failed = 0;
     while (!desktop().closing() && records.next(contact)) {
-        note.say(format("Importing contact %d", ++number));
+        if (phone_in_use(desktop()) != phone) return another_phone;
+        note.say(format("Importing contact %zu", ++number));
         log_line("TelName=%s,TelNumber=%s", contact.name.c_str(), contact.number.c_str());
         if (!records.was_last()) {
             // A lone blank stands for nothing.
@@ -127,13 +127,15 @@ bool Contacts_TableSource::import_rows(std::string_view rows) {
             if (contact.number == " ") contact.number.clear();
             if (contact.name.empty() && contact.number.empty()) continue;
         }
-        Contacts_Add_One(contact.name, contact.number);
+        if (!Contacts_Add_One(contact.name, contact.number)) ++failed;
         if (records.was_last())
             post([this, name = contact.name] {
                 m_LB_Message.set_text(format("Importing %s \n", name.c_str()));
             });
     }
-    return number > 0 && !records.break_off();
+    const bool is_whole = number > 0 && !records.break_off();
+    if (failed > 0) return format("%zu of %zu contacts could not be added.", failed, number);
+    return is_whole ? "" : no_rows;
 }
 
 // --- property list; no button asks for it ---

@@ -87,10 +87,10 @@ class Contacts_TableSource : public Table_Source {
     void TableView_FullData();
     void delete_records_all();
     void thread_do_read_xml(const std::string& path);
-    /// Adds the page's contacts to the phone; false when there is none.
-    bool import_rows(std::string_view rows);
-    /// Adds on the phone, then in the table.
-    void Contacts_Add_One(const std::string& name, const std::string& Tel_PhoneNumber);
+    /// Adds the page's contacts to the phone. Gives why not all came over; empty when they did.
+    std::string import_rows(std::string_view rows);
+    /// Adds on the phone, then in the table; false when the phone gave no ID.
+    bool Contacts_Add_One(const std::string& name, const std::string& Tel_PhoneNumber);
     /// Gives the id that the phone gave, empty when it gave none.
     std::string Contacts_Add_To_APK(const std::string& name, const std::string& Tel_PhoneNumber);
     bool Contacts_Modify_To_APK(const std::string& name, const std::string& Tel_PhoneNumber,

@@ -96,14 +96,15 @@ void File_TableSource::Add_Files(std::vector<std::string> paths) {
 
 void File_TableSource::thread_do_add_file_function(const std::vector<std::string>& paths,
                                                    Held_Flag& adding) {
-    for_each_told("Copying to the phone", paths, [this](const auto& path) { add_file(path); });
+    for_each_told("Copying to the phone", paths,
+                  [this](const auto& path) { return add_file(path); });
     adding.give_back();
     const std::string added = paths.size() == 1 ? paths.front() : format("%zu files", paths.size());
     window_.show_message(format("Added %s successfully!\n\n%s", added.c_str(), reconnect_text));
     post([this] { reload_after_a_change(); });
 }
 
-void File_TableSource::add_file(const std::string& path) {
+Outcome File_TableSource::add_file(const std::string& path) {
     const Phone_Tool tool = phone_tool(desktop());
     tool.log_with(path);
     post_change();
@@ -114,7 +115,7 @@ void File_TableSource::add_file(const std::string& path) {
         phone.add_one_for_music_image_video_book(phone.getCommand_AddMusicFile(), path.c_str());
     post_status(format(added ? "Added '%s' successfully!" : "Failed to add '%s'!", path.c_str()));
     if (*pane_.after_add != '\0') post_status(pane_.after_add);
-    if (!failure.empty()) post([this, failure] { quiet.tell_reason(failure); });
+    return {failure.empty(), failure};
 }
 
 // --- delete -----------------------------------------------------------------------------------
@@ -159,6 +160,7 @@ bool File_TableSource::adb_delete_file_by_apk_OnThePhone(const std::string& id,
             trace("del '%s' successfully!", file.path.c_str());
         else
             trace("failed!");
+        return Outcome{deleted};
     });
 }
 
@@ -190,8 +192,8 @@ void File_TableSource::export_files(const std::string& folder) {
                                         file.number.c_str(), file.path.c_str(), folder.c_str());
         post_status(line);
         log_line("%s", line.c_str());
-        if (!pulled.reason.empty()) post([this, pulled] { quiet.tell_reason(pulled.reason); });
         ++processed;
+        return Outcome{pulled.done && pulled.reason.empty(), pulled.reason};
     });
     if (processed > 0)
         // "musics" whatever was saved, and all that was tried.

@@ -78,7 +78,7 @@ class File_TableSource : public Table_Source {
     const File_Pane& pane() const { return pane_; }
 
   private:
-    using Delete_One = std::function<void(const Listed_File&)>;
+    using Delete_One = std::function<Outcome(const Listed_File&)>;
 
     // What depends on the kind of rows. Workers.
     virtual void TableView_FullData() = 0;
@@ -92,7 +92,7 @@ class File_TableSource : public Table_Source {
     void export_to(const std::string& folder);
 
     // Workers.
-    void add_file(const std::string& path);
+    Outcome add_file(const std::string& path);
     void thread_do_add_file_function(const std::vector<std::string>& paths, Held_Flag& adding);
     bool adb_delete_file_by_apk_OnThePhone(const std::string& id, const std::string& andFilePath);
     void export_files(const std::string& folder);
@@ -136,9 +136,9 @@ class File_Table : public Rows_Of_Files<Row>, public File_TableSource {
         for (const Row& row : chosen_rows(table_rows, m_table).rows) files.push_back(file_of(row));
         return files;
     }
-    bool delete_chosen(const std::function<void(const Listed_File&)>& delete_one) override {
+    bool delete_chosen(const std::function<Outcome(const Listed_File&)>& delete_one) override {
         return delete_selected(table_rows, m_table,
-                               [&](const Row& row) { delete_one(file_of(row)); });
+                               [&](const Row& row) { return delete_one(file_of(row)); });
     }
 };
 

@@ -18,6 +18,10 @@ Phone_Tool phone_tool(Desktop& desktop) {
     return desktop.ask([] { return Phone_Tool{g_adb_tool_file, g_device_serial_number}; });
 }
 
+std::string phone_in_use(Desktop& desktop) {
+    return desktop.ask([] { return g_device_serial_number; });
+}
+
 std::string last_line(const std::string& printed) {
     constexpr const char* line_ends = "\r\n";
     const std::size_t last = printed.find_last_not_of(line_ends);

@@ -19,6 +19,12 @@ struct Phone_Tool {
 /// The tool and the phone in use now. Any thread but one that the user-interface thread waits for.
 Phone_Tool phone_tool(Desktop& desktop);
 
+/// The serial number of the phone in use now. The same threads.
+std::string phone_in_use(Desktop& desktop);
+
+/// What a person is told whose command was meant for the phone before.
+inline constexpr const char* another_phone = "Another phone is connected by now.";
+
 /// The last line that the tool printed; empty when it printed nothing.
 std::string last_line(const std::string& printed);
 

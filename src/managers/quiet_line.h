@@ -28,6 +28,10 @@ class Quiet_Line {
     std::string remark_;
 };
 
+/// Of several things that were to be done: how many failed, and why (when that is known) the last
+/// of them did. Of a single one the reason alone; empty when there is nothing to say.
+std::string words_of_failures(std::size_t failed, std::size_t all, const std::string& reason);
+
 inline constexpr const char* list_is_old =
     "The phone was changed while the list came. Refresh reads it again.";
 

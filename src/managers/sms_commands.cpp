@@ -17,10 +17,11 @@ bool SMS_TableSource::SMS_Del_To_APK(const std::string& id, const std::string& S
     return sock_apk().del_one_sms_for_ver2(id.c_str(), SMS_ThreadID.c_str());
 }
 
-void SMS_TableSource::delete_one(const SMS_TableSource_Column& row) {
+Outcome SMS_TableSource::delete_one(const SMS_TableSource_Column& row) {
     const bool deleted = SMS_Del_To_APK(row.col_sms_id, row.col_sms_thread_id);
     post_status(format(deleted ? "Successfully deleted '%s'." : "Faild to delete '%s'.",
                        row.col_sms_phone_number.c_str()));
+    return {deleted};
 }
 
 void SMS_TableSource::OnClick_Button_Delete() {
@@ -32,7 +33,7 @@ void SMS_TableSource::OnClick_Button_Delete() {
 
 void SMS_TableSource::delete_selected_messages() {
     const bool deleted =
-        delete_selected(table_rows, m_table, [this](const auto& row) { delete_one(row); });
+        delete_selected(table_rows, m_table, [this](const auto& row) { return delete_one(row); });
     if (!deleted) return;
     post([this] {
         OnTable_Selected();
@@ -50,7 +51,7 @@ void SMS_TableSource::sms_delete_all() {
     const int clears = desktop().ask([this] { return table_rows.clears(); });
     const std::vector<SMS_TableSource_Column> tried = rows_on_the_screen(table_rows, m_table);
     for_each_told("Deleting", tried,
-                  [this](const SMS_TableSource_Column& row) { delete_one(row); });
+                  [this](const SMS_TableSource_Column& row) { return delete_one(row); });
     post([this, clears, count = tried.size()] {
         m_LB_sms_content.set_text("");
         if (count == 0) return;  // what is there by now has come since, and stays

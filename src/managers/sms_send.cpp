@@ -4,6 +4,7 @@
 
 #include "base/text.h"
 #include "base/trace.h"
+#include "managers/phone_tool.h"
 #include "ui/busy_line.h"
 #include "ui/desktop.h"
 #include "ui/guarded_worker.h"
@@ -114,7 +115,8 @@ bool SMS_Send::may_be_sent() {
 void SMS_Send::OnBT_Send() {
     if (!may_be_sent()) return;
     refresh_contacts(m_ET_Send_Contects_telname.text());
-    const Job job{m_ET_SMS_Content.text(), m_ET_Send_Contects_telname.text(), m_contacts};
+    const Job job{m_ET_SMS_Content.text(), m_ET_Send_Contects_telname.text(), m_contacts,
+                  g_device_serial_number};
     run_command(desktop(), "send message", [this, job] { send(job); });
 }
 
@@ -129,7 +131,7 @@ void SMS_Send::send(const Job& job) {
         if (!contains_ignoring_case(job.recipients, contact.tel))  // it was taken out by hand
             log_line("NOT FOUND : TelNumber = %s,Name = %s", contact.tel.c_str(),
                      contact.name.c_str());
-        else if (!send_one(agent, job.message, contact))
+        else if (phone_in_use(desktop()) != job.phone || !send_one(agent, job.message, contact))
             failed += (failed.empty() ? "Not sent to " : ", ") + contact.tel;
     }
     if (failed.empty()) return;

@@ -46,6 +46,7 @@ class SMS_Send : public Dialog {
         std::string message;
         std::string recipients;  // the text of the field
         std::vector<sock_apk::CONTACT> contacts;
+        std::string phone;  // the serial number of the one that sends
     };
 
     bool may_be_sent();

@@ -67,7 +67,7 @@ class SMS_TableSource : public Table_Source {
     void delete_selected_messages();
     void sms_delete_all();
     /// Deletes the row's message on the phone and tells what became of it.
-    void delete_one(const SMS_TableSource_Column& row);
+    Outcome delete_one(const SMS_TableSource_Column& row);
 
     /// Reloads behind a change of the phone's messages.
     void reload_after_a_change();

@@ -43,9 +43,16 @@ void Table_Source::take_drops(Dropped_Files drops) {
 }
 
 void Table_Source::ask_person(const Alert& question, std::function<void()> agreed) {
-    desktop().open_alert(question, [agreed = std::move(agreed)](int button) {
-        if (button == yes) agreed();
-    });
+    desktop().open_alert(
+        question, [this, agreed = std::move(agreed), phone = g_device_serial_number](int button) {
+            if (button == yes && is_still_in_use(phone)) agreed();
+        });
+}
+
+bool Table_Source::is_still_in_use(const std::string& phone) {
+    const bool still = g_device_serial_number == phone;
+    if (!still) quiet.tell_reason(another_phone);
+    return still;
 }
 
 void Table_Source::show_count(int rows) {
@@ -95,7 +102,9 @@ bool Table_Source::tell_saved(const std::string& path, const std::string& reason
 }
 
 bool Table_Source::person_agrees(const std::string& question) {
-    return desktop().run_alert(yes_or_no(question)) == yes;
+    const std::string phone = phone_in_use(desktop());
+    if (desktop().run_alert(yes_or_no(question)) != yes) return false;
+    return desktop().ask([this, &phone] { return is_still_in_use(phone); });
 }
 
 }  // namespace velk

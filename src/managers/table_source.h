@@ -9,6 +9,7 @@
 #include "agent/sock_apk.h"
 #include "base/text.h"
 #include "managers/filling.h"
+#include "managers/phone_tool.h"
 #include "managers/quiet_line.h"
 #include "ui/busy_line.h"
 #include "ui/desktop.h"
@@ -22,6 +23,12 @@ namespace velk {
 inline constexpr const char* delete_selected_question =
     "Are you sure you want to delete the selected item(s)?";
 inline constexpr const char* delete_all_question = "Are your sure you want to delete all items?";
+
+/// What became of one of several things.
+struct Outcome {
+    bool good = true;
+    std::string reason = {};  // why it is not, or not as it should be, in a line; may be empty
+};
 
 /// A list of the phone's, and what is said of it.
 template <class Record>
@@ -70,8 +77,12 @@ class Table_Source {
 
     Desktop& desktop() { return window_.desktop(); }
 
-    /// Asks; `agreed` runs behind "Yes".
+    /// Asks; `agreed` runs behind "Yes", unless another phone has been connected meanwhile.
     void ask_person(const Alert& question, std::function<void()> agreed);
+
+    /// True while the phone with this serial number is the one in use; otherwise the quiet line
+    /// tells why nothing is done. What was chosen on one phone may mean something else on another.
+    bool is_still_in_use(const std::string& phone);
 
     void say(std::string text) { identity_.status.set_text(std::move(text)); }
     /// Puts the number of rows into the section's button of the toolbar.
@@ -98,7 +109,7 @@ class Table_Source {
     /// Puts the reason of a failed export into the quiet line; false when there is one. Without a
     /// path nothing was asked for, so there is nothing to explain.
     bool tell_saved(const std::string& path, const std::string& reason);
-    /// Asks with "Yes" and "No"; true for "Yes".
+    /// Asks with "Yes" and "No"; true for "Yes", unless another phone has been connected meanwhile.
     bool person_agrees(const std::string& question);
     /// Says what is waited for, until it goes.
     Busy_Note busy(std::string text) { return {desktop(), window_.busy_line(), std::move(text)}; }
@@ -124,12 +135,13 @@ class Table_Source {
     std::vector<Row> rows_on_the_screen(const Row_List<Row>& rows, const Table& table);
 
     /// Calls `work` for each of these, telling how far it is ("Deleting 3 of 17", or "Deleting" for
-    /// a single one), until the window closes.
+    /// a single one), until the window closes or another phone is connected. It gives an Outcome;
+    /// the quiet line tells how many failed, if not all was well.
     template <class Item, class Work>
     void for_each_told(const char* doing, const std::vector<Item>& items, Work work);
 
-    /// Calls `delete_one` for every row that is selected now, in ascending order, whatever becomes
-    /// of each, then takes them all out of the table. Beeps, and gives false, when none is.
+    /// Calls `delete_one` for every row that is selected now, in ascending order, whatever Outcome
+    /// each has, then takes them all out of the table. Beeps, and gives false, when none is.
     template <class Row, class Delete_One>
     bool delete_selected(Row_List<Row>& rows, Table& table, Delete_One delete_one);
 
@@ -145,10 +157,20 @@ class Table_Source {
 template <class Item, class Work>
 void Table_Source::for_each_told(const char* doing, const std::vector<Item>& items, Work work) {
     Busy_Note note = busy(doing);
+    const std::string phone = phone_in_use(desktop());
+    std::size_t good = 0;
+    std::string reason;
     for (std::size_t i = 0; i < items.size() && !desktop().closing(); ++i) {
         if (items.size() > 1) note.say(format("%s %zu of %zu", doing, i + 1, items.size()));
-        work(items[i]);
+        const bool same_phone = phone_in_use(desktop()) == phone;
+        Outcome outcome = same_phone ? work(items[i]) : Outcome{false, another_phone};
+        if (outcome.good) ++good;
+        if (!outcome.reason.empty()) reason = std::move(outcome.reason);
+        if (!same_phone) break;
     }
+    post([this, words = words_of_failures(items.size() - good, items.size(), reason)] {
+        if (!words.empty()) quiet.tell_reason(words);
+    });
 }
 
 template <class Row, class Record, class Told>

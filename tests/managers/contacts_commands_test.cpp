@@ -90,6 +90,32 @@ TEST_F(Contacts_Commands, modifies_the_row_at_once_and_keeps_it_when_the_phone_r
     EXPECT_THAT(agent.codes(), testing::Not(testing::Contains("14").Times(2)));
 }
 
+TEST_F(Contacts_Commands, asks_nothing_of_another_phone_than_was_meant) {
+    load_three();
+    select({0});
+    window.test_desktop.use_dialog([](Dialog& dialog) {
+        dynamic_cast<Contacts_Edit&>(dialog).m_Edit_Name.type("Al");
+        g_device_serial_number = "another";
+        dialog.OnBT_OK();
+    });
+    contacts.OnBT_ModifyContacts();
+    EXPECT_EQ(quiet(), another_phone);
+    for (const auto& begin : {&Contacts_TableSource::OnBT_DeleteContacts,
+                              &Contacts_TableSource::OnBT_Contacts_DelAll}) {
+        contacts.quiet.tell_reason("");
+        window.test_desktop.hold_alert();
+        (contacts.*begin)();
+        ASSERT_TRUE(
+            window.test_desktop.pump_until([this] { return window.test_desktop.alert_is_open(); }));
+        g_device_serial_number += "!";
+        window.test_desktop.press(yes);
+        finish();
+        EXPECT_EQ(quiet(), another_phone);
+    }
+    EXPECT_THAT(edits(), testing::IsEmpty());
+    EXPECT_EQ(contacts.table_rows.count(), 3);
+}
+
 TEST_F(Contacts_Commands, tries_every_selected_row_and_removes_them_all) {
     load_three();
     contacts.m_table.sort(2, false);  // Cat, Ben, Ann
@@ -108,6 +134,7 @@ TEST_F(Contacts_Commands, tries_every_selected_row_and_removes_them_all) {
     EXPECT_THAT(recorder.lines_of("m_table_Contacts reloaded"),
                 testing::Contains("m_table_Contacts reloaded: 0 rows"));
     EXPECT_EQ(agent.codes().back(), "14");
+    EXPECT_EQ(quiet(), "1 of 3 failed.");
 }
 
 TEST_F(Contacts_Commands, deletes_nothing_without_a_yes_or_once_the_selection_has_vanished) {

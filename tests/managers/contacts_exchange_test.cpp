@@ -95,10 +95,14 @@ TEST_F(Contacts_Exchange, imports_nothing_from_a_file_that_is_no_export_and_says
     EXPECT_THAT(edits(), testing::IsEmpty());
 }
 
-TEST_F(Contacts_Exchange, says_so_when_a_name_hides_the_contacts_behind_it) {
+TEST_F(Contacts_Exchange, says_so_when_not_all_contacts_came_over) {
+    agent.reply_once_to('5', Agent_Double::added("104"));
+    import("['ID','Name','Phone Number'],\n['1','Ann','5'],\n['2','Ben','6']\n];");
+    EXPECT_EQ(quiet(), "1 of 2 contacts could not be added.");
+    agent.reply_to('5', Agent_Double::added("105"));
     import(
         "['ID','Name','Phone Number'],\n['1','Ann','5'],\n['2','x];y','6'],\n['3','Cat','7']\n];");
-    EXPECT_THAT(added(), ElementsAre("Ann*5*|"));
+    EXPECT_THAT(added(), ElementsAre("Ann*5*|", "Ben*6*|", "Ann*5*|"));
     EXPECT_EQ(quiet(), "That file holds no contacts, or not all of its list.");
 }
 

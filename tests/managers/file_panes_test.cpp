@@ -150,6 +150,7 @@ TEST_F(File_Panes, delete_what_is_selected_without_naming_it_and_reload) {
 TEST_F(File_Panes, export_each_selected_file_and_count_those_that_failed) {
     const Temporary_Folder folder;
     const std::string where = folder.path("");
+    adb.answer("pull", {.pulled = "new"});
     adb.answer("pull /p/b", "no such file\n");
     for (const Case& each : cases) {
         load(each, {"/p/a", "/p/b"});
@@ -161,7 +162,7 @@ TEST_F(File_Panes, export_each_selected_file_and_count_those_that_failed) {
                         "m_LB_TIPS: Faild to save '(2)/p/b' to '" + where + "'.",
                         "message: Saved 2 musics file to '" + where + "' successfully!"));
         EXPECT_EQ(adb.calls().back(), (Lines{"-s", "R58 M", "pull", "/p/b", where}));
-        EXPECT_EQ(each.pane.quiet.m_LB_Quiet.text(), "no such file");
+        EXPECT_EQ(each.pane.quiet.m_LB_Quiet.text(), "1 of 2 failed: no such file");
         each.pane.m_table.select({}, -1);
         export_to(each, where);
         EXPECT_THAT(recorder.lines(), ElementsAre("panel: ", "beep"));
@@ -176,11 +177,12 @@ TEST_F(File_Panes, export_over_no_file_out_of_no_folder_and_leave_no_part) {
     adb.answer("pull", {.pulled = "new"});
     for (const char* failing : {"pull /p/bad.jpg", "pull /p/part.jpg"})
         adb.answer(failing, {.output = "adb: error: disk\n", .pulled = "part"});
-    load(photos, {"/p/a 'b'.jpg", "/q/a 'b'.jpg", "/p/bad.jpg", "/p/part.jpg", "/p/" + long_name,
-                  "/p/..", "/p/.", "/p/", "-p"});
+    adb.answer("pull /p/cut.jpg", {.behaviour = Fake_Adb::Behaviour::crashes, .pulled = "part"});
+    load(photos, {"/p/a 'b'.jpg", "/q/a 'b'.jpg", "/p/bad.jpg", "/p/part.jpg", "/p/cut.jpg",
+                  "/p/" + long_name, "/p/..", "/p/.", "/p/", "-p"});
     export_to(photos, folder.path(""));
-    EXPECT_THAT(recorder.lines_of("m_LB_TIPS: Faild to save"), testing::SizeIs(6));
-    EXPECT_EQ(adb.calls().size(), 5U);
+    EXPECT_THAT(recorder.lines_of("m_LB_TIPS: Faild to save"), testing::SizeIs(7));
+    EXPECT_EQ(adb.calls().size(), 6U);
     std::map<std::string, std::string> files;
     for (const auto& file : std::filesystem::directory_iterator(folder.path("")))
         files[file.path().filename()] = read_whole_file(file.path()).value_or("none");

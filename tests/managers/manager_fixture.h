@@ -43,6 +43,7 @@ class Manager_Test : public testing::Test {
     Manager_Test() {
         window.test_desktop.on_note = [this](const std::string& line) { recorder.note(line); };
         g_phone_was_changed = 0;
+        g_device_serial_number = "R58 M";
     }
 
     void finish() { window.test_desktop.finish_work(); }

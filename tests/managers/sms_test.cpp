@@ -88,6 +88,7 @@ TEST_F(SMS_Section, tells_of_messages_that_a_delete_all_took_from_the_table_untr
     Agent_Double::Reply late("ok");
     late.pieces[0].gate = loaded.get_future().share();
     agent.reply_once_to('N', late);
+    agent.reply_to('N', "ok");
     window.test_desktop.answer_alert(yes);
     sms.OnBT_SMS_DeleteAll();
     ASSERT_TRUE(window.test_desktop.pump_until([&] { return edits().size() == 1; }));
@@ -99,6 +100,21 @@ TEST_F(SMS_Section, tells_of_messages_that_a_delete_all_took_from_the_table_untr
     EXPECT_EQ(sms.table_rows.count(), 0);
     EXPECT_EQ(g_table_sms_need_refresh, 1);
     EXPECT_EQ(sms.quiet.m_LB_Quiet.text(), list_is_old);
+}
+
+TEST_F(SMS_Section, deletes_no_more_once_another_phone_is_connected) {
+    load_three();
+    std::promise<void> answer;
+    Agent_Double::Reply late("ok");
+    late.pieces[0].gate = answer.get_future().share();
+    agent.reply_to('N', late);
+    delete_rows({0, 1, 2});
+    ASSERT_TRUE(window.test_desktop.pump_until([&] { return edits().size() == 1; }));
+    g_device_serial_number = "another";
+    answer.set_value();
+    finish();
+    EXPECT_EQ(edits().size(), 3U);
+    EXPECT_EQ(sms.quiet.m_LB_Quiet.text(), "2 of 3 failed: " + std::string(another_phone));
 }
 
 TEST_F(SMS_Section, lets_a_load_go_on_behind_a_delete_all_of_nothing) {

@@ -11,10 +11,7 @@ class Tool_Test : public Manager_Test {
   protected:
     using Lines = std::vector<std::string>;
 
-    Tool_Test() {
-        g_adb_tool_file = adb.tool();
-        g_device_serial_number = "R58 M";
-    }
+    Tool_Test() { g_adb_tool_file = adb.tool(); }
 
     /// What was shown, up to the begin of a load.
     Lines lines_before_the_load() const {
