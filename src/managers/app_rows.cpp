@@ -11,7 +11,7 @@ const std::array<Row_Column<App_TableSource_Column>, 5>& App_TableSource_Column:
         {no_column, &Row::col_no},
         {{.identifier = "col_app_name", .title = "Name", .width = 28, .wide = true},
          &Row::col_app_name},
-        {{.identifier = "col_app_name_package", .title = "Package", .width = 34},
+        {{.identifier = "col_app_name_package", .title = "Package", .width = 34, .fixed = true},
          &Row::col_app_name_package},
         {{.identifier = "col_app_ver", .title = "Version", .width = 12, .searched = false},
          &Row::col_app_ver},

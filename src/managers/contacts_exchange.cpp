@@ -64,8 +64,9 @@ std::string Contacts_TableSource::get_save_fullpath(const std::string& extension
 
 bool Contacts_TableSource::save_to_html(const std::string& path) {
     const Busy_Note note = busy("Exporting contacts");
+    const bool coming = list_is_coming();
     const std::string data = contacts_data(rows_on_the_screen(table_rows, m_table));
-    return tell_saved(path, save_page(desktop(), path, "Contacts", data));
+    return tell_saved(path, save_page(desktop(), path, "Contacts", data), coming);
 }
 
 // --- import ---

@@ -15,7 +15,7 @@ constexpr Column id_column(const char* identifier) {
 }
 
 constexpr Column path_column(const char* identifier) {
-    return {.identifier = identifier, .title = "File", .width = 40, .wide = true};
+    return {.identifier = identifier, .title = "File", .width = 40, .wide = true, .fixed = true};
 }
 
 /// "01:02:05": in the order of the texts.

@@ -99,15 +99,16 @@ std::string SMS_TableSource::get_save_fullpath(const std::string& extension) {
 
 bool SMS_TableSource::save_to_html(const std::string& path) {
     const Busy_Note note = busy("Exporting messages");
-    return tell_saved(path, save_page(desktop(), path, "Messages",
-                                      sms_page_data(rows_on_the_screen(table_rows, m_table))));
+    const bool coming = list_is_coming();
+    const std::string data = sms_page_data(rows_on_the_screen(table_rows, m_table));
+    return tell_saved(path, save_page(desktop(), path, "Messages", data), coming);
 }
 
 bool SMS_TableSource::save_to_txt(const std::string& path) {
     const std::string now = often_tools_function::get_current_date_time();
-    return tell_saved(
-        path,
-        save_text(desktop(), path, sms_plain_text(rows_on_the_screen(table_rows, m_table), now)));
+    const bool coming = list_is_coming();
+    const std::string text = sms_plain_text(rows_on_the_screen(table_rows, m_table), now);
+    return tell_saved(path, save_text(desktop(), path, text), coming);
 }
 
 }  // namespace velk

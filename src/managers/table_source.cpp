@@ -96,8 +96,16 @@ void Table_Source::post_change() {
     post([] { g_phone_was_changed = 1; });
 }
 
-bool Table_Source::tell_saved(const std::string& path, const std::string& reason) {
-    if (!path.empty()) post([this, reason] { quiet.tell_reason(reason); });
+bool Table_Source::list_is_coming() {
+    return desktop().ask([this] { return !identity_.may_load; });
+}
+
+bool Table_Source::tell_saved(const std::string& path, const std::string& reason, bool was_coming) {
+    const char* const partly = "The list was still coming, so the file may hold a part of it.";
+    if (!path.empty())
+        post([this, words = reason.empty() && was_coming ? partly : reason] {
+            quiet.tell_reason(words);
+        });
     return reason.empty();
 }
 

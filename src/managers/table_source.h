@@ -106,9 +106,12 @@ class Table_Source {
     void post_status(std::string text);
     /// The phone is asked to change: what it counted before is no measure any more.
     void post_change();
+    /// True while a load is under way.
+    bool list_is_coming();
     /// Puts the reason of a failed export into the quiet line; false when there is one. Without a
-    /// path nothing was asked for, so there is nothing to explain.
-    bool tell_saved(const std::string& path, const std::string& reason);
+    /// path nothing was asked for, so there is nothing to explain. `was_coming`: when the rows were
+    /// taken, a load was under way, so they may be a part of the list alone; it says so.
+    bool tell_saved(const std::string& path, const std::string& reason, bool was_coming);
     /// Asks with "Yes" and "No"; true for "Yes", unless another phone has been connected meanwhile.
     bool person_agrees(const std::string& question);
     /// Says what is waited for, until it goes.

@@ -60,7 +60,8 @@ std::optional<std::string> Thumbnail_Cache::find(const std::string& key) {
 
 void Thumbnail_Cache::keep(const std::string& key, const std::string& content) {
     if (!has_folder()) return;
-    if (!write_whole_file((fs::path(folder_) / key).string(), content).empty()) return;
+    if (!write_whole_file((fs::path(folder_) / key).string(), content, Readers::owner).empty())
+        return;
     bytes_ += content.size();
     if (!std::exchange(counted_, true) || bytes_ > limit_) count_and_shrink();
 }
@@ -68,14 +69,14 @@ void Thumbnail_Cache::keep(const std::string& key, const std::string& content) {
 std::string Thumbnail_Cache::place_for_a_while() {
     if (!has_folder()) return {};
     std::string path = (fs::path(folder_) / hidden_name()).string();
-    return write_whole_file(path, "").empty() ? path : std::string();
+    return write_whole_file(path, "", Readers::owner).empty() ? path : std::string();
 }
 
 bool Thumbnail_Cache::has_folder() {
     std::error_code error;
-    if (fs::create_directories(folder_, error))
-        fs::permissions(folder_, fs::perms::owner_all, error);
+    fs::create_directories(folder_, error);
     if (!fs::is_directory(folder_, error)) return false;
+    fs::permissions(folder_, fs::perms::owner_all, error);  // whoever made it
     if (!std::exchange(tidied_, true)) remove_what_was_left();
     return true;
 }

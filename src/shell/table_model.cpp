@@ -153,10 +153,12 @@ QVariant Table_Model::headerData(int section, Qt::Orientation orientation, int r
     return {};
 }
 
-// Numbers and sizes are the phone's; only words are a person's to write.
+// Numbers and sizes are the phone's, and so is what names a file or an application: a command that
+// was given for one must not go to another. All other words are a person's to write.
 Qt::ItemFlags Table_Model::flags(const QModelIndex& index) const {
     if (!index.isValid()) return Qt::NoItemFlags;
-    const bool words = column(index.column()).comparison == Comparison::text;
+    const Column& shown_as = column(index.column());
+    const bool words = shown_as.comparison == Comparison::text && !shown_as.fixed;
     return Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren |
            (words && table_.editable ? Qt::ItemIsEditable : Qt::NoItemFlags);
 }

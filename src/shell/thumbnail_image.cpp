@@ -20,17 +20,25 @@ QSize within(QSize size, QSize most) {
     return fits ? size : size.scaled(most, Qt::KeepAspectRatio).expandedTo({1, 1});
 }
 
+/// The formats of photos, as far as there are readers. A drawing, whatever its name, could keep its
+/// reader busy for minutes.
+bool is_a_photos(const QByteArray& format) {
+    static const QList<QByteArray> formats = QImageReader::supportedImageFormats();
+    static const QList<QByteArray> photos = {"bmp", "gif", "jpeg", "jpg", "png", "webp"};
+    return photos.contains(format) && formats.contains(format);
+}
+
 }  // namespace
 
 bool has_reader(const std::string& path) {
-    static const QList<QByteArray> formats = QImageReader::supportedImageFormats();
-    return formats.contains(QFileInfo(shown(path)).suffix().toLower().toLatin1());
+    return is_a_photos(QFileInfo(shown(path)).suffix().toLower().toLatin1());
 }
 
 // A reader that scales while it reads needs a fraction of the memory and the time.
 std::string small_picture(const std::string& file) {
     QImageReader reader(QFile::decodeName(file.c_str()));
     reader.setDecideFormatFromContent(true);
+    if (!is_a_photos(reader.format())) return {};
     reader.setAutoTransform(true);
     if (const QSize size = reader.size(); size.isValid()) {
         const bool turned = reader.transformation() & QImageIOHandler::TransformationRotate90;

@@ -26,6 +26,7 @@ struct Column {
     int width = 12;        // at the start, in average characters
     bool wide = false;     // takes what room is left
     bool hidden = false;   // kept in the row, not shown
+    bool fixed = false;    // what the phone knows a thing by: nobody is to write into it
     bool searched = true;  // where it holds words; false for dates and for words like "Inbox"
 };
 

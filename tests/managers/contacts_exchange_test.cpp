@@ -63,6 +63,21 @@ TEST_F(Contacts_Exchange, asks_before_it_replaces_and_says_why_it_could_not_save
     EXPECT_EQ(quiet(), "Is a directory");
 }
 
+TEST_F(Contacts_Exchange, says_so_when_a_list_was_exported_that_was_still_coming) {
+    Agent_Double::Reply late = Agent_Double::contacts({{"7", "Ann", "555"}});
+    std::promise<void> answer;
+    late.pieces[0].gate = answer.get_future().share();
+    agent.reply_to(14, late);
+    contacts.OnBT_Contacts_Refresh();
+    ASSERT_TRUE(window.test_desktop.pump_until([&] { return agent.requests().size() == 1; }));
+    window.test_desktop.choose_file(folder.path("early"));
+    contacts.OnBT_ContactsExport();
+    ASSERT_TRUE(window.test_desktop.pump_until([this] { return !quiet().empty(); }));
+    EXPECT_EQ(quiet(), "The list was still coming, so the file may hold a part of it.");
+    answer.set_value();
+    finish();
+}
+
 TEST_F(Contacts_Exchange, imports_an_export_and_reloads) {
     agent.reply_to('5', Agent_Double::added("104"));
     import(

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QFile>
 #include <QTemporaryDir>
 #include <filesystem>
 #include <fstream>
@@ -135,6 +136,11 @@ TEST(Small_Picture, is_small_upright_and_never_larger_than_it_was) {
         EXPECT_EQ(thumbnail(small_picture(path.toStdString()), 1).size(), is);
     }
     EXPECT_EQ(small_picture(folder.filePath("none.png").toStdString()), "");
+    QFile drawing(folder.filePath("drawing.jpg"));
+    ASSERT_TRUE(drawing.open(QIODevice::WriteOnly));
+    drawing.write("<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>");
+    drawing.close();
+    EXPECT_EQ(small_picture(drawing.fileName().toStdString()), "");
 }
 
 }  // namespace
