@@ -39,6 +39,9 @@ done
 read -r -a rooms <<<"${floors[*]}"
 forbid 'the demo phone shares code with the program' \
     < <(includes "$(one_of "${rooms[@]}")/" demo_phone)
+forbid 'the launcher shares more than the running of children' \
+    < <(includes "$(one_of "${rooms[@]}")/" launcher |
+        grep -vE '[<"](base/|bridge/child_process\.h)' || true)
 forbid 'Qt outside the shell and its tests' \
     < <(includes 'Q[A-Z]|Qt' --exclude-dir=shell src demo_phone launcher tests)
 forbid 'libudev outside session/usb_monitor' \

@@ -8,7 +8,7 @@ set -euo pipefail
 
 packages=(
     g++ cmake ninja-build pkg-config # the build
-    qt6-base-dev                     # the window
+    qt6-base-dev qt6-wayland         # the window
     libqt6svg6                       # its icons
     libudev-dev                      # notices a phone that is plugged in
     libplist-dev                     # contacts as a property list
@@ -25,7 +25,7 @@ case "${1:-}" in
             clang clang-format-14 clang-tidy-14
             dpkg-dev file librsvg2-bin gzip               # make the package
             lintian desktop-file-utils appstream man-db   # judge it
-            debootstrap udev umockdev                     # try it
+            debootstrap udev                              # try it
         )
         ;;
     *) echo "usage: $0 [--all]" >&2 && exit 2 ;;
@@ -35,7 +35,7 @@ if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
     cat >&2 <<'NEEDED'
 This is not a Debian system, so nothing is installed for you. Velk needs:
   a C++20 compiler (g++ 12 or clang 14, or newer), CMake 3.25 or newer, Ninja, pkg-config,
-  Qt 6.4 or newer with Widgets, Network, Xml and its SVG plugin, libudev, libplist 2, GoogleTest
+  Qt 6.4 or newer with Widgets, Network, Xml, Test and its SVG plugin, libudev, libplist 2, GoogleTest
   with GoogleMock, umockdev, adb, and fonts for the scripts that names on a phone come in.
 Going on with what is there.
 NEEDED

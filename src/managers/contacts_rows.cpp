@@ -46,8 +46,8 @@ std::vector<Contacts_TableSource_Column> fetch_contact_rows(bool& too_many) {
     return rows;
 }
 
-std::string without_separators(const std::string& number) {
-    return replace_all(number, '|', '!');
+std::string without_separators(const std::string& text) {
+    return replace_all(text, '|', '!');
 }
 
 }  // namespace velk

@@ -31,7 +31,8 @@ inline constexpr const char* contacts_wait_text = "Waiting for the phone: contac
 /// which case there is no row. Worker.
 std::vector<Contacts_TableSource_Column> fetch_contact_rows(bool& too_many);
 
-/// "|" separates fields in requests and ends them, so no number on this side holds one.
-std::string without_separators(const std::string& number);
+/// "|" separates fields in requests and ends them: the number of a row, a number that is typed, and
+/// what a page holds have another mark in its place.
+std::string without_separators(const std::string& text);
 
 }  // namespace velk

@@ -42,7 +42,7 @@ class Thumbnails {
     void go_on();
     /// That file could not be had, and is not tried again.
     bool gave_up(const std::string& key) const { return failed_.contains(key); }
-    /// The rows are others now, be it in their order only: it is.
+    /// The rows are others now, be it in their order only: what could not be had is tried again.
     void try_all_again() { failed_.clear(); }
 
   private:
