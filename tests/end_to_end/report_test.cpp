@@ -74,6 +74,98 @@ class Report : public On_The_Demo_Phone {
         return read_whole_file(path).value_or("");
     }
 
+    void do_all_with_contacts() {
+        step("list contacts", [this] { load_contacts(); });
+        step("add a contact", [this] {
+            fill<Contacts_Add>("Zyx Quillfeather", "+491517654321");
+            press(DEFINE_VIEW_Contacts, "Add");
+        });
+        step("modify a contact", [this] {
+            select_first(DEFINE_VIEW_Contacts);
+            fill<Contacts_Edit>("Wvu Sparrowdale", "+491601234567");
+            testing::internal::CaptureStdout();
+            press(DEFINE_VIEW_Contacts, "Modify");
+            desktop.finish_work();
+            const std::string printed = testing::internal::GetCapturedStdout();
+            EXPECT_THAT(printed, HasSubstr(":'W'\n")) << "what is private goes its usual way";
+        });
+        for (const int id : {DEFINE_VIEW_Contacts, DEFINE_VIEW_SMS})
+            step("export " + section(id).title, [this, id] {
+                document.displayViewController(id);
+                if (id == DEFINE_VIEW_SMS) document.OnBT_SMS();
+                desktop.finish_work();
+                desktop.choose_file(private_text(file("page of " + std::to_string(id))));
+                press(id, "Export");
+            });
+        step("import contacts", [this] {
+            g_contacts_tablesource->ContactsImport(
+                file("page of " + std::to_string(DEFINE_VIEW_Contacts) + ".HTML"));
+        });
+        step("import what is no page",
+             [this] { g_contacts_tablesource->ContactsImport(new_file("no page at all")); });
+        step("delete a contact", [this] {
+            select_first(DEFINE_VIEW_Contacts);
+            desktop.answer_alert(yes);
+            press(DEFINE_VIEW_Contacts, "Delete");
+        });
+    }
+    void do_all_with_messages() {
+        step("send a message", [this] {
+            desktop.use_dialog([this](Dialog&) {
+                SMS_Send& composer = g_sms_tablesource->composer();
+                composer.m_ET_Send_Contects_telname.type(private_text("99887766") + ";");
+                composer.m_ET_SMS_Content.type(private_text("Meet me at Tern Lane"));
+                composer.OnBT_Send();
+            });
+            press(DEFINE_VIEW_SMS, "Send");
+        });
+        step("delete a message", [this] {
+            press(DEFINE_VIEW_SMS, "Refresh");
+            desktop.finish_work();
+            select_first(DEFINE_VIEW_SMS);
+            desktop.answer_alert(yes);
+            press(DEFINE_VIEW_SMS, "Delete");
+        });
+    }
+    void do_all_with_applications() {
+        step("list applications", [this] { document.OnBT_App(); });
+        step("install", [this] {
+            g_app_tablesource->Install_APK_To_Phone(new_file("larch app.apk"));
+            desktop.finish_work();
+            g_app_tablesource->Install_APK_To_Phone(private_text(file("missing app.apk")));
+        });
+        step("uninstall", [this] {
+            select_first(DEFINE_VIEW_App);
+            desktop.answer_alert(yes);
+            press(DEFINE_VIEW_App, "Uninstall");
+        });
+    }
+    void do_all_with_files() {
+        const std::pair<int, const char*> panes[] = {{DEFINE_VIEW_Music, "alder song.mp3"},
+                                                     {DEFINE_VIEW_Photo, "alder photo.jpg"},
+                                                     {DEFINE_VIEW_Video, "alder film.mp4"},
+                                                     {DEFINE_VIEW_Book, "alder book.epub"}};
+        for (const auto& [id, name] : panes) {
+            step("add to " + section(id).title, [this, id = id, name = name] {
+                desktop.choose_file(new_file(name));
+                desktop.answer_alert(0);
+                press(id, "Add");
+            });
+            step("export from " + section(id).title, [this, id = id] {
+                select_first(id);
+                std::filesystem::create_directory(file("out"));
+                desktop.choose_file(file("out"));
+                desktop.answer_alert(0);
+                press(id, "Export");
+            });
+            step("delete from " + section(id).title, [this, id = id] {
+                select_first(id);
+                desktop.answer_alert(yes);
+                press(id, "Delete");
+            });
+        }
+    }
+
     std::set<std::string> private_;
 
   private:
@@ -101,94 +193,10 @@ TEST_F(Report, has_nothing_private_whatever_was_done) {
                  "--photos", "3", "--videos", "3", "--books", "3", "--apps", "3"});
         private_text(serial);
     });
-
-    step("list contacts", [this] { load_contacts(); });
-    step("add a contact", [this] {
-        fill<Contacts_Add>("Zyx Quillfeather", "+491517654321");
-        press(DEFINE_VIEW_Contacts, "Add");
-    });
-    step("modify a contact", [this] {
-        select_first(DEFINE_VIEW_Contacts);
-        fill<Contacts_Edit>("Wvu Sparrowdale", "+491601234567");
-        testing::internal::CaptureStdout();
-        press(DEFINE_VIEW_Contacts, "Modify");
-        desktop.finish_work();
-        const std::string printed = testing::internal::GetCapturedStdout();
-        EXPECT_THAT(printed, HasSubstr(":'W'\n")) << "what is private goes its usual way";
-    });
-    for (const int id : {DEFINE_VIEW_Contacts, DEFINE_VIEW_SMS})
-        step("export " + section(id).title, [this, id] {
-            document.displayViewController(id);
-            if (id == DEFINE_VIEW_SMS) document.OnBT_SMS();
-            desktop.finish_work();
-            desktop.choose_file(private_text(file("page of " + std::to_string(id))));
-            press(id, "Export");
-        });
-    step("import contacts", [this] {
-        g_contacts_tablesource->ContactsImport(
-            file("page of " + std::to_string(DEFINE_VIEW_Contacts) + ".HTML"));
-    });
-    step("import what is no page",
-         [this] { g_contacts_tablesource->ContactsImport(new_file("no page at all")); });
-    step("delete a contact", [this] {
-        select_first(DEFINE_VIEW_Contacts);
-        desktop.answer_alert(yes);
-        press(DEFINE_VIEW_Contacts, "Delete");
-    });
-
-    step("send a message", [this] {
-        desktop.use_dialog([this](Dialog&) {
-            SMS_Send& composer = g_sms_tablesource->composer();
-            composer.m_ET_Send_Contects_telname.type(private_text("99887766") + ";");
-            composer.m_ET_SMS_Content.type(private_text("Meet me at Tern Lane"));
-            composer.OnBT_Send();
-        });
-        press(DEFINE_VIEW_SMS, "Send");
-    });
-    step("delete a message", [this] {
-        press(DEFINE_VIEW_SMS, "Refresh");
-        desktop.finish_work();
-        select_first(DEFINE_VIEW_SMS);
-        desktop.answer_alert(yes);
-        press(DEFINE_VIEW_SMS, "Delete");
-    });
-
-    step("list applications", [this] { document.OnBT_App(); });
-    step("install", [this] {
-        g_app_tablesource->Install_APK_To_Phone(new_file("larch app.apk"));
-        desktop.finish_work();
-        g_app_tablesource->Install_APK_To_Phone(private_text(file("missing app.apk")));
-    });
-    step("uninstall", [this] {
-        select_first(DEFINE_VIEW_App);
-        desktop.answer_alert(yes);
-        press(DEFINE_VIEW_App, "Uninstall");
-    });
-
-    const std::pair<int, const char*> panes[] = {{DEFINE_VIEW_Music, "alder song.mp3"},
-                                                 {DEFINE_VIEW_Photo, "alder photo.jpg"},
-                                                 {DEFINE_VIEW_Video, "alder film.mp4"},
-                                                 {DEFINE_VIEW_Book, "alder book.epub"}};
-    for (const auto& [id, name] : panes) {
-        step("add to " + section(id).title, [this, id = id, name = name] {
-            desktop.choose_file(new_file(name));
-            desktop.answer_alert(0);
-            press(id, "Add");
-        });
-        step("export from " + section(id).title, [this, id = id] {
-            select_first(id);
-            std::filesystem::create_directory(file("out"));
-            desktop.choose_file(file("out"));
-            desktop.answer_alert(0);
-            press(id, "Export");
-        });
-        step("delete from " + section(id).title, [this, id = id] {
-            select_first(id);
-            desktop.answer_alert(yes);
-            press(id, "Delete");
-        });
-    }
-
+    do_all_with_contacts();
+    do_all_with_messages();
+    do_all_with_applications();
+    do_all_with_files();
     step("refused", [this] {
         tell("play refuse-install");
         refresh();

@@ -156,9 +156,7 @@ TEST_F(Contacts_Commands, leaves_the_rows_of_a_load_alone_that_came_during_a_del
     load_three();
     select({0});
     std::promise<void> loaded;
-    Agent_Double::Reply late("ok");
-    late.pieces[0].gate = loaded.get_future().share();
-    agent.reply_to('z', late);
+    agent.reply_to('z', Agent_Double::held_back("ok", loaded));
     window.test_desktop.answer_alert(yes);
     contacts.OnBT_DeleteContacts();
     ASSERT_TRUE(window.test_desktop.pump_until([&] { return edits().size() == 1; }));
@@ -194,10 +192,9 @@ TEST_F(Contacts_Commands, deletes_all_on_the_phone_after_a_yes) {
 
 TEST_F(Contacts_Commands, ends_a_load_whose_table_a_delete_all_has_emptied) {
     load_three();
-    Agent_Double::Reply late = Agent_Double::contacts({{"7", "Ann", "555"}});
     std::promise<void> emptied;
-    late.pieces[0].gate = emptied.get_future().share();
-    agent.reply_once_to(14, late);
+    agent.reply_once_to(
+        14, Agent_Double::held_back(Agent_Double::contacts({{"7", "Ann", "555"}}), emptied));
     agent.reply_to(120, "ok");
     contacts.OnBT_Contacts_Refresh();
     ASSERT_TRUE(window.test_desktop.pump_until([&] { return agent.requests().size() == 2; }));

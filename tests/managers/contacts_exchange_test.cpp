@@ -64,10 +64,9 @@ TEST_F(Contacts_Exchange, asks_before_it_replaces_and_says_why_it_could_not_save
 }
 
 TEST_F(Contacts_Exchange, says_so_when_a_list_was_exported_that_was_still_coming) {
-    Agent_Double::Reply late = Agent_Double::contacts({{"7", "Ann", "555"}});
     std::promise<void> answer;
-    late.pieces[0].gate = answer.get_future().share();
-    agent.reply_to(14, late);
+    agent.reply_to(14,
+                   Agent_Double::held_back(Agent_Double::contacts({{"7", "Ann", "555"}}), answer));
     contacts.OnBT_Contacts_Refresh();
     ASSERT_TRUE(window.test_desktop.pump_until([&] { return agent.requests().size() == 1; }));
     window.test_desktop.choose_file(folder.path("early"));

@@ -85,9 +85,7 @@ TEST_F(SMS_Section, deletes_all_one_by_one_in_their_order_and_reads_nothing_afte
 TEST_F(SMS_Section, tells_of_messages_that_a_delete_all_took_from_the_table_untried) {
     load_three();
     std::promise<void> loaded;
-    Agent_Double::Reply late("ok");
-    late.pieces[0].gate = loaded.get_future().share();
-    agent.reply_once_to('N', late);
+    agent.reply_once_to('N', Agent_Double::held_back("ok", loaded));
     agent.reply_to('N', "ok");
     window.test_desktop.answer_alert(yes);
     sms.OnBT_SMS_DeleteAll();
@@ -105,9 +103,7 @@ TEST_F(SMS_Section, tells_of_messages_that_a_delete_all_took_from_the_table_untr
 TEST_F(SMS_Section, deletes_no_more_once_another_phone_is_connected) {
     load_three();
     std::promise<void> answer;
-    Agent_Double::Reply late("ok");
-    late.pieces[0].gate = answer.get_future().share();
-    agent.reply_to('N', late);
+    agent.reply_to('N', Agent_Double::held_back("ok", answer));
     delete_rows({0, 1, 2});
     ASSERT_TRUE(window.test_desktop.pump_until([&] { return edits().size() == 1; }));
     g_device_serial_number = "another";
@@ -118,10 +114,8 @@ TEST_F(SMS_Section, deletes_no_more_once_another_phone_is_connected) {
 }
 
 TEST_F(SMS_Section, lets_a_load_go_on_behind_a_delete_all_of_nothing) {
-    Agent_Double::Reply late = Agent_Double::messages({{"1", "a", "d1"}});
     std::promise<void> answer;
-    late.pieces[0].gate = answer.get_future().share();
-    agent.reply_to(47, late);
+    agent.reply_to(47, Agent_Double::held_back(Agent_Double::messages({{"1", "a", "d1"}}), answer));
     sms.OnBT_Refresh();
     ASSERT_TRUE(window.test_desktop.pump_until([&] { return agent.requests().size() == 1; }));
     sms.m_LB_sms_content.set_text("old");

@@ -211,9 +211,7 @@ TEST_F(Session, starts_no_second_attempt_while_one_runs_and_queues_none) {
 TEST_F(Session, loads_each_list_behind_an_attempt_also_where_an_earlier_load_still_runs) {
     phone_is_fine();
     std::promise<void> answer;
-    Agent_Double::Reply late;
-    late.pieces.push_back({"", answer.get_future().share()});
-    agent.reply_once_to(118, late);
+    agent.reply_once_to(118, Agent_Double::held_back("", answer));
     dynamic_cast<View_Photo&>(*document.m_views[DEFINE_VIEW_Photo]).source.OnBT_Refresh();
     ASSERT_TRUE(desktop.pump_until([&] { return agent.requests().size() == 1; }));
     document.OnBT_Refresh();
@@ -228,9 +226,7 @@ TEST_F(Session, loads_each_list_behind_an_attempt_also_where_an_earlier_load_sti
 TEST_F(Session, loads_no_list_behind_an_attempt_that_a_person_has_refreshed_since) {
     phone_is_fine();
     std::promise<void> answer;
-    Agent_Double::Reply late;
-    late.pieces.push_back({"", answer.get_future().share()});
-    agent.reply_once_to(115, late);
+    agent.reply_once_to(115, Agent_Double::held_back("", answer));
     document.OnBT_Refresh();
     ASSERT_TRUE(desktop.pump_until([&] { return agent.codes().size() == 16; }));
     dynamic_cast<View_Book&>(*document.m_views[DEFINE_VIEW_Book]).source.OnBT_Refresh();

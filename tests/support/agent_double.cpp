@@ -214,6 +214,11 @@ Agent_Double::Reply Agent_Double::messages(const std::vector<Message>& messages)
     return packets + header(0);
 }
 
+Agent_Double::Reply Agent_Double::held_back(Reply reply, std::promise<void>& until) {
+    reply.pieces.front().gate = until.get_future().share();
+    return reply;
+}
+
 Agent_Double::Reply Agent_Double::in_pieces(const std::string& bytes, std::size_t length) {
     Reply reply;
     for (std::size_t start = 0; start < bytes.size(); start += length)

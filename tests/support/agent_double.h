@@ -77,6 +77,8 @@ class Agent_Double {
     };
     /// The reply to a request for the messages: a packet for each, and the bare header.
     static Reply messages(const std::vector<Message>& messages);
+    /// The reply, of which nothing comes before the promise is kept.
+    static Reply held_back(Reply reply, std::promise<void>& until);
     /// The bytes in pieces of this length.
     static Reply in_pieces(const std::string& bytes, std::size_t length);
     /// A number as the agent writes it: four bytes, most significant first.
