@@ -8,7 +8,7 @@ namespace velk {
 /// Made afresh for each operation, and stateless. Every operation runs the tool at the path given
 /// first, blocks until it has ended (workers only, there is no time limit), logs the exchange, and
 /// gives what the tool printed on its standard output, line breaks included. The text is empty
-/// when the tool cannot be run or did not print UTF-8; how it ended counts for nothing.
+/// when the tool cannot be run or did not print UTF-8; how it ended counts for nothing but a pull.
 ///
 /// `ModelID` is the phone's serial number as the tool prints it.
 class ADB_Command {
@@ -28,7 +28,7 @@ class ADB_Command {
                                            std::string* printed = nullptr);
     std::string Push_File_To_Android(const std::string& tool, const std::string& ModelID,
                                      const std::string& File, const std::string& PhonePath);
-    /// `cut_off` (when given) tells that something ended the tool before it could say anything.
+    /// `cut_off` (when given) tells that a signal ended the tool, which may not have said so.
     std::string Pull_File_To_Computer(const std::string& tool, const std::string& ModelID,
                                       const std::string& PhonePath, const std::string& File,
                                       bool* cut_off = nullptr);

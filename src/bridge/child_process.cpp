@@ -44,7 +44,10 @@ void tell_that_it_cannot_be_run(std::string_view program) {
     // A key like Ctrl-C ends the whole group in the terminal. The caller says when a child ends,
     // and must not take one that was cut off for one that has done its work. A child that reads
     // from the terminal has to stay.
-    if (!command.shares_input) ::setpgid(0, 0);
+    if (!command.shares_input) {
+        ::setpgid(0, 0);
+        ::signal(SIGTTOU, SIG_IGN);  // it may write to the terminal all the same
+    }
 
     // A copy above the standard streams, so that none of them is in the way of another.
     const int captured = ::fcntl(pipe, F_DUPFD, 3);

@@ -19,11 +19,13 @@ const Phone_List<sock_apk::APP_RECORD> phone_list = {
     .loaded = "There are %zu application(s) on your Mobile Phone.",
     .counted = g_int_count_apps};
 
-/// Why the tool failed; empty when it did not. The phone's own words differ from one to the next,
-/// save when all went well.
+// The phone's own words differ from one to the next, save when all went well.
+constexpr const char* all_went_well = "Success";
+
+/// Why the tool failed; empty when it did not, or did not say why.
 std::string failure_of(const std::string& printed) {
     const std::string line = last_line(printed);
-    return line == "Success" ? "" : line;
+    return line == all_went_well ? "" : line;
 }
 
 }  // namespace
@@ -99,11 +101,11 @@ void App_TableSource::TableView_FullData() {
 // --- install ----------------------------------------------------------------------------------
 
 void App_TableSource::get_fullpath(std::function<void(const std::string&)> chosen) {
-    desktop().open_file_panel({.message = "select a file(*.apk).",
-                               .prompt = "OK",
-                               .folders = true,
-                               .patterns = {package_names}},
-                              std::move(chosen));
+    open_panel({.message = "select a file(*.apk).",
+                .prompt = "OK",
+                .folders = true,
+                .patterns = {package_names}},
+               std::move(chosen));
 }
 
 void App_TableSource::OnBT_App_Install() {
@@ -112,31 +114,30 @@ void App_TableSource::OnBT_App_Install() {
 }
 
 void App_TableSource::Install_Files(std::vector<std::string> paths) {
-    start_guarded(desktop(), g_can_click_app_install, "install",
-                  [this, paths = std::move(paths)](Held_Flag& installing) {
-                      thread_do_install_function(paths, installing);
-                  });
+    start_guarded(
+        desktop(), g_can_click_app_install, "install",
+        [this, paths = std::move(paths), tool = phone_tool(desktop())](Held_Flag& installing) {
+            thread_do_install_function(paths, tool, installing);
+        });
 }
 
 void App_TableSource::thread_do_install_function(const std::vector<std::string>& paths,
-                                                 Held_Flag& installing) {
-    for_each_told("Installing on the phone", paths,
-                  [this](const std::string& path) { return adb_install_apk(path); });
+                                                 const Phone_Tool& tool, Held_Flag& installing) {
+    for_each_on(tool.serial, "Installing on the phone", paths,
+                [&](const std::string& path) { return adb_install_apk(path, tool); });
     show_change(installing);
 }
 
-Outcome App_TableSource::adb_install_apk(const std::string& path) {
+Outcome App_TableSource::adb_install_apk(const std::string& path, const Phone_Tool& tool) {
     log_line("V1 == %s", path.c_str());
     post_status(format("Installing file '%s'.", path.c_str()));
-    const Phone_Tool tool = phone_tool(desktop());
     tool.log_with(path);
     post_change();
     const std::string printed = ADB_Command().Install_Apk_To_Android(tool.path, tool.serial, path);
     log_line("%s", printed.c_str());
     // Whatever the tool printed; the quiet line has its reason.
     post_status("Installed Successfully!");
-    const std::string failure = failure_of(printed);
-    return {failure.empty(), failure};
+    return {last_line(printed) == all_went_well, failure_of(printed)};
 }
 
 // --- uninstall --------------------------------------------------------------------------------
@@ -157,20 +158,20 @@ void App_TableSource::Delete_APP(const std::string& package) {
     For_Thread_Var arguments;
     arguments.m_contacts_import_file_name = package;
     start_guarded(desktop(), g_can_click_app_uninstall, "uninstall",
-                  [this, arguments](Held_Flag& uninstalling) {
-                      thread_do_uninstall_function(arguments, uninstalling);
+                  [this, arguments, tool = phone_tool(desktop())](Held_Flag& uninstalling) {
+                      thread_do_uninstall_function(arguments, tool, uninstalling);
                   });
 }
 
 void App_TableSource::thread_do_uninstall_function(const For_Thread_Var& arguments,
+                                                   const Phone_Tool& tool,
                                                    Held_Flag& uninstalling) {
     const Busy_Note note = busy("Uninstalling from the phone");
-    adb_uninstall_apk(arguments.m_contacts_import_file_name);
+    adb_uninstall_apk(arguments.m_contacts_import_file_name, tool);
     show_change(uninstalling);
 }
 
-void App_TableSource::adb_uninstall_apk(const std::string& package) {
-    const Phone_Tool tool = phone_tool(desktop());
+void App_TableSource::adb_uninstall_apk(const std::string& package, const Phone_Tool& tool) {
     post_change();
     std::string printed;
     const std::string verdict =

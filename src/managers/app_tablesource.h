@@ -55,10 +55,12 @@ class App_TableSource final : public Table_Source {
 
     // Workers.
     void TableView_FullData();
-    void thread_do_install_function(const std::vector<std::string>& paths, Held_Flag& installing);
-    void thread_do_uninstall_function(const For_Thread_Var& arguments, Held_Flag& uninstalling);
-    Outcome adb_install_apk(const std::string& path);
-    void adb_uninstall_apk(const std::string& package);
+    void thread_do_install_function(const std::vector<std::string>& paths, const Phone_Tool& tool,
+                                    Held_Flag& installing);
+    void thread_do_uninstall_function(const For_Thread_Var& arguments, const Phone_Tool& tool,
+                                      Held_Flag& uninstalling);
+    Outcome adb_install_apk(const std::string& path, const Phone_Tool& tool);
+    void adb_uninstall_apk(const std::string& package, const Phone_Tool& tool);
     /// What ends an install and an uninstall.
     void show_change(Held_Flag& running);
 };

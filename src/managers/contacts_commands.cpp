@@ -39,12 +39,11 @@ void Contacts_TableSource::OnBT_AddContacts() {
     if (!add_dialog_) add_dialog_ = std::make_unique<velk::Contacts_Add>();
     add_dialog_->m_Edit_Name.set_text("");
     add_dialog_->m_Edit_PhoneNumber.set_text("");
-    desktop().open_dialog(*add_dialog_, [this] { add_what_was_typed(); });
+    open_dialog(*add_dialog_, [this] { add_what_was_typed(); });
 }
 
 void Contacts_TableSource::add_what_was_typed() {
     const std::string number = without_separators(add_dialog_->m_Edit_PhoneNumber.text());
-    if (!add_dialog_->bOK) return;
     // It asks for the name although the number is what is missing; it has always been so.
     if (number.empty()) return refuse(msg_AddNothingContact, msg_AddNothingContact);
     const std::string name = name_or(add_dialog_->m_Edit_Name, number);
@@ -60,16 +59,19 @@ void Contacts_TableSource::add_what_was_typed() {
 
 bool Contacts_TableSource::Contacts_Add_One(const std::string& name,
                                             const std::string& Tel_PhoneNumber) {
-    const std::string id = Contacts_Add_To_APK(name, Tel_PhoneNumber);
+    bool answered = false;
+    const std::string id = Contacts_Add_To_APK(name, Tel_PhoneNumber, &answered);
     post([this, name, Tel_PhoneNumber, id] { Contacts_Add(name, Tel_PhoneNumber, id); });
-    return !id.empty();
+    return answered;
 }
 
 std::string Contacts_TableSource::Contacts_Add_To_APK(const std::string& name,
-                                                      const std::string& Tel_PhoneNumber) {
+                                                      const std::string& Tel_PhoneNumber,
+                                                      bool* answered) {
     const std::string reply = sock_apk().add_one_contact(name.c_str(), Tel_PhoneNumber.c_str());
     std::string id = sock_apk::get_contact_id(reply);
     post([] { g_phone_was_changed = 1; });
+    if (answered) *answered = !reply.empty();
     post_status(
         result_line(!reply.empty(), "Successfully added", "Faild to add", name, Tel_PhoneNumber));
     return id;
@@ -92,14 +94,11 @@ void Contacts_TableSource::OnBT_ModifyContacts() {
     edit_dialog_->m_Edit_Name.set_text(row.col_name);
     edit_dialog_->m_Edit_PhoneNumber.set_text(row.col_phone_number);
     edit_dialog_->m_LB_ID.set_text(row.col_id);
-    desktop().open_dialog(*edit_dialog_, [this, id = row.col_id, phone = g_device_serial_number] {
-        if (!edit_dialog_->bOK || is_still_in_use(phone)) modify_as_typed(id);
-    });
+    open_dialog(*edit_dialog_, [this, id = row.col_id] { modify_as_typed(id); });
 }
 
 void Contacts_TableSource::modify_as_typed(const std::string& id) {
     const std::string number = without_separators(edit_dialog_->m_Edit_PhoneNumber.text());
-    if (!edit_dialog_->bOK) return;
     // Box and status line have always told two different things here.
     if (number.empty()) return refuse(msg_AddNothingContact_Number, msg_AddNothingContact);
     const std::string name = name_or(edit_dialog_->m_Edit_Name, number);
@@ -138,10 +137,12 @@ bool Contacts_TableSource::Contacts_Modify_To_APK(const std::string& name,
 void Contacts_TableSource::OnBT_DeleteContacts() {
     if (selected_row == -1) return;
     ask_person(yes_or_no(delete_selected_question), [this] {
-        run_command(desktop(), "delete contacts", [this] {
-            const bool deleted = delete_selected(table_rows, m_table, [this](const auto& row) {
-                return Outcome{Contacts_Del_To_APK(row.col_id, row.col_name, row.col_phone_number)};
-            });
+        run_command(desktop(), "delete contacts", [this, phone = phone_in_use(desktop())] {
+            const bool deleted =
+                delete_selected(phone, table_rows, m_table, [this](const auto& row) {
+                    return Outcome{
+                        Contacts_Del_To_APK(row.col_id, row.col_name, row.col_phone_number)};
+                });
             if (deleted) post([this] { reload_after_a_change(); });
         });
     });
@@ -161,8 +162,8 @@ bool Contacts_TableSource::Contacts_Del_To_APK(const std::string& id, const std:
 
 void Contacts_TableSource::ContactsDeleteAll() {
     start_guarded(desktop(), g_can_click_contacts_delete_all, "delete contacts",
-                  [this](Held_Flag& running) {
-                      if (!person_agrees(delete_all_question)) return;
+                  [this, phone = phone_in_use(desktop())](Held_Flag& running) {
+                      if (!person_agrees(delete_all_question, phone)) return;
                       delete_records_all();
                       running.give_back();
                       post([this] { reload_after_a_change(); });

@@ -76,7 +76,7 @@ void Contacts_TableSource::OnBT_ContactsImport() {
                            .prompt = "OK",
                            .folders = true,
                            .sheet = true};
-    desktop().open_file_panel(panel, [this](const std::string& path) {
+    open_panel(panel, [this](const std::string& path) {
         if (!path.empty()) ContactsImport(path);
     });
 }
@@ -120,7 +120,7 @@ std::string Contacts_TableSource::import_rows(std::string_view rows) {
     std::size_t failed = 0;
     while (!desktop().closing() && records.next(contact)) {
         if (phone_in_use(desktop()) != phone) return another_phone;
-        note.say(format("Importing contact %zu", ++number));
+        note.say(format("Importing contact %zu", number + 1));
         log_line("TelName=%s,TelNumber=%s", contact.name.c_str(), contact.number.c_str());
         if (!records.was_last()) {
             // A lone blank stands for nothing.
@@ -128,6 +128,7 @@ std::string Contacts_TableSource::import_rows(std::string_view rows) {
             if (contact.number == " ") contact.number.clear();
             if (contact.name.empty() && contact.number.empty()) continue;
         }
+        ++number;
         if (!Contacts_Add_One(contact.name, contact.number)) ++failed;
         if (records.was_last())
             post([this, name = contact.name] {
@@ -135,8 +136,10 @@ std::string Contacts_TableSource::import_rows(std::string_view rows) {
             });
     }
     const bool is_whole = number > 0 && !records.break_off();
-    if (failed > 0) return format("%zu of %zu contacts could not be added.", failed, number);
-    return is_whole ? "" : no_rows;
+    const std::string reason = is_whole ? "" : no_rows;
+    if (failed == 0) return reason;
+    return format("%zu of %zu contacts could not be added.%s%s", failed, number,
+                  is_whole ? "" : " ", reason.c_str());
 }
 
 // --- property list; no button asks for it ---

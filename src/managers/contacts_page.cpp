@@ -103,7 +103,7 @@ bool Page_Records::next(Page_Contact& contact) {
 
 bool Page_Records::break_off() const {
     return rows_.find(']') == std::string_view::npos &&
-           rows_.find_first_not_of(" \r\n,") != std::string_view::npos;
+           rows_.find_first_not_of(" \t\r\n,") != std::string_view::npos;
 }
 
 }  // namespace velk

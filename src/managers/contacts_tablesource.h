@@ -89,10 +89,12 @@ class Contacts_TableSource : public Table_Source {
     void thread_do_read_xml(const std::string& path);
     /// Adds the page's contacts to the phone. Gives why not all came over; empty when they did.
     std::string import_rows(std::string_view rows);
-    /// Adds on the phone, then in the table; false when the phone gave no ID.
+    /// Adds on the phone, then in the table; false when the phone did not answer.
     bool Contacts_Add_One(const std::string& name, const std::string& Tel_PhoneNumber);
-    /// Gives the id that the phone gave, empty when it gave none.
-    std::string Contacts_Add_To_APK(const std::string& name, const std::string& Tel_PhoneNumber);
+    /// Gives the id that the phone gave, empty when it gave none; `answered` (when given) tells
+    /// whether it said anything.
+    std::string Contacts_Add_To_APK(const std::string& name, const std::string& Tel_PhoneNumber,
+                                    bool* answered = nullptr);
     bool Contacts_Modify_To_APK(const std::string& name, const std::string& Tel_PhoneNumber,
                                 const std::string& Tel_ID);
     bool Contacts_Del_To_APK(const std::string& id, const std::string& Tel_Name,

@@ -84,28 +84,26 @@ void File_TableSource::choose_and_add(bool files, bool folders) {
                            .files = files,
                            .folders = folders};
     // A person who cancels adds the empty path, and reads that it failed.
-    desktop().open_file_panel(panel, [this](const std::string& path) { Add_File_To_Phone(path); });
+    open_panel(panel, [this](const std::string& path) { Add_File_To_Phone(path); });
 }
 
 void File_TableSource::Add_Files(std::vector<std::string> paths) {
     start_guarded(desktop(), pane_.may_add, "add files",
-                  [this, paths = std::move(paths)](Held_Flag& adding) {
-                      thread_do_add_file_function(paths, adding);
-                  });
+                  [this, paths = std::move(paths), tool = phone_tool(desktop())](
+                      Held_Flag& adding) { thread_do_add_file_function(paths, tool, adding); });
 }
 
 void File_TableSource::thread_do_add_file_function(const std::vector<std::string>& paths,
-                                                   Held_Flag& adding) {
-    for_each_told("Copying to the phone", paths,
-                  [this](const auto& path) { return add_file(path); });
+                                                   const Phone_Tool& tool, Held_Flag& adding) {
+    for_each_on(tool.serial, "Copying to the phone", paths,
+                [&](const std::string& path) { return add_file(path, tool); });
     adding.give_back();
     const std::string added = paths.size() == 1 ? paths.front() : format("%zu files", paths.size());
     window_.show_message(format("Added %s successfully!\n\n%s", added.c_str(), reconnect_text));
     post([this] { reload_after_a_change(); });
 }
 
-Outcome File_TableSource::add_file(const std::string& path) {
-    const Phone_Tool tool = phone_tool(desktop());
+Outcome File_TableSource::add_file(const std::string& path, const Phone_Tool& tool) {
     tool.log_with(path);
     post_change();
     const std::string failure = failure_in(
@@ -115,7 +113,7 @@ Outcome File_TableSource::add_file(const std::string& path) {
         phone.add_one_for_music_image_video_book(phone.getCommand_AddMusicFile(), path.c_str());
     post_status(format(added ? "Added '%s' successfully!" : "Failed to add '%s'!", path.c_str()));
     if (*pane_.after_add != '\0') post_status(pane_.after_add);
-    return {failure.empty(), failure};
+    return {added && failure.empty(), failure};
 }
 
 // --- delete -----------------------------------------------------------------------------------
@@ -131,28 +129,30 @@ void File_TableSource::Delete_Record(const std::string& id, const std::string& a
     For_Thread_Var arguments;
     arguments.record_id = id;
     arguments.record_file_name = andMusicPath;
-    start_guarded(desktop(), pane_.may_delete, "delete files", [this, arguments](Held_Flag&) {
-        const bool deleted =
-            adb_delete_file_by_apk_OnThePhone(arguments.record_id, arguments.record_file_name);
-        if (!deleted) return;
-        post([this] {
-            OnTable_Selected();
-            say("Starting to delete record from your phone...");
-            reload_after_a_change();
-        });
-    });
+    start_guarded(desktop(), pane_.may_delete, "delete files",
+                  [this, arguments, phone = phone_in_use(desktop())](Held_Flag&) {
+                      const bool deleted = adb_delete_file_by_apk_OnThePhone(
+                          arguments.record_id, arguments.record_file_name, phone);
+                      if (!deleted) return;
+                      post([this] {
+                          OnTable_Selected();
+                          say("Starting to delete record from your phone...");
+                          reload_after_a_change();
+                      });
+                  });
 }
 
 bool File_TableSource::adb_delete_file_by_apk_OnThePhone(const std::string& id,
-                                                         const std::string& andFilePath) {
-    sock_apk phone;
-    const int code = (phone.*pane_.delete_code)();
+                                                         const std::string& andFilePath,
+                                                         const std::string& phone) {
+    sock_apk agent;
+    const int code = (agent.*pane_.delete_code)();
     const std::string named = format(pane_.delete_result, id.c_str(), andFilePath.c_str());
-    return delete_chosen([&](const Listed_File& file) {
+    return delete_chosen(phone, [&](const Listed_File& file) {
         post_change();
-        const bool deleted = pane_.has_ids ? phone.del_one_for_music_image_video(
+        const bool deleted = pane_.has_ids ? agent.del_one_for_music_image_video(
                                                  code, file.id.c_str(), file.path.c_str())
-                                           : phone.del_one_for_book(code, file.path.c_str());
+                                           : agent.del_one_for_book(code, file.path.c_str());
         // The line never names the file.
         post_status(format(deleted ? "Deleted '%s' successfully!" : "Failed to delete '%s'!",
                            named.c_str()));
@@ -172,19 +172,19 @@ void File_TableSource::choose_folder_and_export() {
                            .files = false,
                            .folders = true,
                            .sheet = true};
-    desktop().open_file_panel(panel, [this](const std::string& folder) {
+    open_panel(panel, [this](const std::string& folder) {
         if (!folder.empty()) export_to(folder);
     });
 }
 
 void File_TableSource::export_to(const std::string& folder) {
-    start_guarded(desktop(), pane_.may_export, "export files",
-                  [this, folder](Held_Flag&) { export_files(folder); });
+    start_guarded(
+        desktop(), pane_.may_export, "export files",
+        [this, folder, tool = phone_tool(desktop())](Held_Flag&) { export_files(folder, tool); });
 }
 
-void File_TableSource::export_files(const std::string& folder) {
+void File_TableSource::export_files(const std::string& folder, const Phone_Tool& tool) {
     int processed = 0;
-    const Phone_Tool tool = phone_tool(desktop());
     for_each_told("Copying", chosen_files(), [&](const Listed_File& file) {
         const Pulled pulled = pull_into_folder(desktop(), tool, file.path, folder);
         const std::string line = format(pulled.done ? "Successfully saved '(%s)%s' to '%s'."

@@ -85,17 +85,19 @@ class File_TableSource : public Table_Source {
     /// The selected files, ascending. Beeps when there is none.
     virtual std::vector<Listed_File> chosen_files() = 0;
     /// See Table_Source::delete_selected.
-    virtual bool delete_chosen(const Delete_One& delete_one) = 0;
+    virtual bool delete_chosen(const std::string& phone, const Delete_One& delete_one) = 0;
 
     /// Behind a change of the phone's files: a load under way may have missed it.
     void reload_after_a_change();
     void export_to(const std::string& folder);
 
     // Workers.
-    Outcome add_file(const std::string& path);
-    void thread_do_add_file_function(const std::vector<std::string>& paths, Held_Flag& adding);
-    bool adb_delete_file_by_apk_OnThePhone(const std::string& id, const std::string& andFilePath);
-    void export_files(const std::string& folder);
+    Outcome add_file(const std::string& path, const Phone_Tool& tool);
+    void thread_do_add_file_function(const std::vector<std::string>& paths, const Phone_Tool& tool,
+                                     Held_Flag& adding);
+    bool adb_delete_file_by_apk_OnThePhone(const std::string& id, const std::string& andFilePath,
+                                           const std::string& phone);
+    void export_files(const std::string& folder, const Phone_Tool& tool);
 
     const File_Pane& pane_;
 };
@@ -136,8 +138,9 @@ class File_Table : public Rows_Of_Files<Row>, public File_TableSource {
         for (const Row& row : chosen_rows(table_rows, m_table).rows) files.push_back(file_of(row));
         return files;
     }
-    bool delete_chosen(const std::function<Outcome(const Listed_File&)>& delete_one) override {
-        return delete_selected(table_rows, m_table,
+    bool delete_chosen(const std::string& phone,
+                       const std::function<Outcome(const Listed_File&)>& delete_one) override {
+        return delete_selected(phone, table_rows, m_table,
                                [&](const Row& row) { return delete_one(file_of(row)); });
     }
 };

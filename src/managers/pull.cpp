@@ -125,8 +125,9 @@ Pulled pull_into_folder(Desktop& desktop, const Phone_Tool& tool, const std::str
     bool cut_off = false;
     const std::string printed =
         ADB_Command().Pull_File_To_Computer(tool.path, tool.serial, phone_path, folder, &cut_off);
-    Pulled pulled{.done = printed.empty() && !cut_off && !desktop.closing(),
-                  .reason = cut_off ? "The copy was cut off." : last_line(printed)};
+    Pulled pulled{
+        .done = printed.empty() && !cut_off && !desktop.closing(),
+        .reason = cut_off && printed.empty() ? "The copy was cut off." : last_line(printed)};
     if (pulled.done && !is_there(file))
         pulled.reason = "The file did not arrive.";
     else if (pulled.done && old.moved() && !rename_to_numbered(file, file))

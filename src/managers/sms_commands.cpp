@@ -27,13 +27,14 @@ Outcome SMS_TableSource::delete_one(const SMS_TableSource_Column& row) {
 void SMS_TableSource::OnClick_Button_Delete() {
     if (selected_row == -1) return;
     ask_person(yes_or_no(delete_selected_question), [this] {
-        run_command(desktop(), "delete messages", [this] { delete_selected_messages(); });
+        run_command(desktop(), "delete messages",
+                    [this, phone = phone_in_use(desktop())] { delete_selected_messages(phone); });
     });
 }
 
-void SMS_TableSource::delete_selected_messages() {
-    const bool deleted =
-        delete_selected(table_rows, m_table, [this](const auto& row) { return delete_one(row); });
+void SMS_TableSource::delete_selected_messages(const std::string& phone) {
+    const bool deleted = delete_selected(phone, table_rows, m_table,
+                                         [this](const auto& row) { return delete_one(row); });
     if (!deleted) return;
     post([this] {
         OnTable_Selected();
@@ -42,19 +43,21 @@ void SMS_TableSource::delete_selected_messages() {
 }
 
 void SMS_TableSource::SMSDeleteAll() {
-    start_guarded(desktop(), g_can_click_sms_delete_all, "delete all", [this](Held_Flag&) {
-        if (person_agrees(delete_all_question)) sms_delete_all();
-    });
+    start_guarded(desktop(), g_can_click_sms_delete_all, "delete all",
+                  [this, phone = phone_in_use(desktop())](Held_Flag&) {
+                      if (person_agrees(delete_all_question, phone)) sms_delete_all(phone);
+                  });
 }
 
-void SMS_TableSource::sms_delete_all() {
+void SMS_TableSource::sms_delete_all(const std::string& phone) {
     const int clears = desktop().ask([this] { return table_rows.clears(); });
     const std::vector<SMS_TableSource_Column> tried = rows_on_the_screen(table_rows, m_table);
-    for_each_told("Deleting", tried,
-                  [this](const SMS_TableSource_Column& row) { return delete_one(row); });
+    for_each_on(phone, "Deleting", tried,
+                [this](const SMS_TableSource_Column& row) { return delete_one(row); });
     post([this, clears, count = tried.size()] {
         m_LB_sms_content.set_text("");
-        if (count == 0) return;  // what is there by now has come since, and stays
+        if (count == 0 && !g_can_click_sms_load)
+            return quiet.tell_reason("The list was still coming, so nothing was deleted.");
         const bool some_were_not_tried = table_rows.clears() != clears || table_rows.size() > count;
         table_rows.clear();
         m_table.reload();

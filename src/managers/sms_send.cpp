@@ -48,6 +48,7 @@ Desktop& SMS_Send::desktop() {
 }
 
 void SMS_Send::showWindow() {
+    phone_ = g_device_serial_number;
     desktop().open_dialog(*this, [] {});
 }
 
@@ -114,9 +115,9 @@ bool SMS_Send::may_be_sent() {
 
 void SMS_Send::OnBT_Send() {
     if (!may_be_sent()) return;
+    if (g_device_serial_number != phone_) return m_LB_Quiet.set_text(another_phone);
     refresh_contacts(m_ET_Send_Contects_telname.text());
-    const Job job{m_ET_SMS_Content.text(), m_ET_Send_Contects_telname.text(), m_contacts,
-                  g_device_serial_number};
+    const Job job{m_ET_SMS_Content.text(), m_ET_Send_Contects_telname.text(), m_contacts, phone_};
     run_command(desktop(), "send message", [this, job] { send(job); });
 }
 

@@ -46,7 +46,7 @@ class SMS_Send : public Dialog {
         std::string message;
         std::string recipients;  // the text of the field
         std::vector<sock_apk::CONTACT> contacts;
-        std::string phone;  // the serial number of the one that sends
+        std::string phone;  // the serial number of the one that was meant
     };
 
     bool may_be_sent();
@@ -58,6 +58,7 @@ class SMS_Send : public Dialog {
     Desktop& desktop();
 
     Main_Window& window_;
+    std::string phone_;  // the serial number of the one in use when the dialog was opened
     std::unique_ptr<SMS_Contacts> picker_;
 };
 

@@ -64,8 +64,8 @@ class SMS_TableSource : public Table_Source {
   private:
     // Workers.
     void TableView_FullData();
-    void delete_selected_messages();
-    void sms_delete_all();
+    void delete_selected_messages(const std::string& phone);
+    void sms_delete_all(const std::string& phone);
     /// Deletes the row's message on the phone and tells what became of it.
     Outcome delete_one(const SMS_TableSource_Column& row);
 

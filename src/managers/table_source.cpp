@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "ui/dialog.h"
 #include "ui/program_wide.h"
 
 namespace velk {
@@ -46,6 +47,21 @@ void Table_Source::ask_person(const Alert& question, std::function<void()> agree
     desktop().open_alert(
         question, [this, agreed = std::move(agreed), phone = g_device_serial_number](int button) {
             if (button == yes && is_still_in_use(phone)) agreed();
+        });
+}
+
+void Table_Source::open_panel(const File_Panel& panel,
+                              std::function<void(const std::string&)> chosen) {
+    desktop().open_file_panel(panel, [this, chosen = std::move(chosen),
+                                      phone = g_device_serial_number](const std::string& path) {
+        if (path.empty() || is_still_in_use(phone)) chosen(path);
+    });
+}
+
+void Table_Source::open_dialog(Dialog& dialog, std::function<void()> confirmed) {
+    desktop().open_dialog(
+        dialog, [this, &dialog, confirmed = std::move(confirmed), phone = g_device_serial_number] {
+            if (dialog.bOK && is_still_in_use(phone)) confirmed();
         });
 }
 
@@ -109,8 +125,7 @@ bool Table_Source::tell_saved(const std::string& path, const std::string& reason
     return reason.empty();
 }
 
-bool Table_Source::person_agrees(const std::string& question) {
-    const std::string phone = phone_in_use(desktop());
+bool Table_Source::person_agrees(const std::string& question, const std::string& phone) {
     if (desktop().run_alert(yes_or_no(question)) != yes) return false;
     return desktop().ask([this, &phone] { return is_still_in_use(phone); });
 }

@@ -77,12 +77,15 @@ class Table_Source {
 
     Desktop& desktop() { return window_.desktop(); }
 
-    /// Asks; `agreed` runs behind "Yes", unless another phone has been connected meanwhile.
-    void ask_person(const Alert& question, std::function<void()> agreed);
+    // Boxes. What a person chose on one phone may mean something else on another: nothing is done
+    // when another has been connected while the box was open, and the quiet line says so.
 
-    /// True while the phone with this serial number is the one in use; otherwise the quiet line
-    /// tells why nothing is done. What was chosen on one phone may mean something else on another.
-    bool is_still_in_use(const std::string& phone);
+    /// Asks; `agreed` runs behind "Yes".
+    void ask_person(const Alert& question, std::function<void()> agreed);
+    /// `chosen` gets the path, empty when the person cancelled.
+    void open_panel(const File_Panel& panel, std::function<void(const std::string& path)> chosen);
+    /// `confirmed` runs behind its "OK".
+    void open_dialog(Dialog& dialog, std::function<void()> confirmed);
 
     void say(std::string text) { identity_.status.set_text(std::move(text)); }
     /// Puts the number of rows into the section's button of the toolbar.
@@ -112,8 +115,9 @@ class Table_Source {
     /// path nothing was asked for, so there is nothing to explain. `was_coming`: when the rows were
     /// taken, a load was under way, so they may be a part of the list alone; it says so.
     bool tell_saved(const std::string& path, const std::string& reason, bool was_coming);
-    /// Asks with "Yes" and "No"; true for "Yes", unless another phone has been connected meanwhile.
-    bool person_agrees(const std::string& question);
+    /// Asks with "Yes" and "No"; true for "Yes" while `phone` is the serial number of the one in
+    /// use.
+    bool person_agrees(const std::string& question, const std::string& phone);
     /// Says what is waited for, until it goes.
     Busy_Note busy(std::string text) { return {desktop(), window_.busy_line(), std::move(text)}; }
 
@@ -138,19 +142,26 @@ class Table_Source {
     std::vector<Row> rows_on_the_screen(const Row_List<Row>& rows, const Table& table);
 
     /// Calls `work` for each of these, telling how far it is ("Deleting 3 of 17", or "Deleting" for
-    /// a single one), until the window closes or another phone is connected. It gives an Outcome;
-    /// the quiet line tells how many failed, if not all was well.
+    /// a single one), until the window closes. It gives an Outcome; the quiet line tells how many
+    /// failed, if not all was well.
     template <class Item, class Work>
     void for_each_told(const char* doing, const std::vector<Item>& items, Work work);
+    /// The same; fails, and does nothing, for each while another phone than that with this serial
+    /// number is in use.
+    template <class Item, class Work>
+    void for_each_on(const std::string& phone, const char* doing, const std::vector<Item>& items,
+                     Work work);
 
     /// Calls `delete_one` for every row that is selected now, in ascending order, whatever Outcome
     /// each has, then takes them all out of the table. Beeps, and gives false, when none is.
     template <class Row, class Delete_One>
-    bool delete_selected(Row_List<Row>& rows, Table& table, Delete_One delete_one);
+    bool delete_selected(const std::string& phone, Row_List<Row>& rows, Table& table,
+                         Delete_One delete_one);
 
     Main_Window& window_;
 
   private:
+    bool is_still_in_use(const std::string& phone);
     void table_is_stale();
 
     Identity identity_;
@@ -160,19 +171,24 @@ class Table_Source {
 template <class Item, class Work>
 void Table_Source::for_each_told(const char* doing, const std::vector<Item>& items, Work work) {
     Busy_Note note = busy(doing);
-    const std::string phone = phone_in_use(desktop());
     std::size_t good = 0;
     std::string reason;
     for (std::size_t i = 0; i < items.size() && !desktop().closing(); ++i) {
         if (items.size() > 1) note.say(format("%s %zu of %zu", doing, i + 1, items.size()));
-        const bool same_phone = phone_in_use(desktop()) == phone;
-        Outcome outcome = same_phone ? work(items[i]) : Outcome{false, another_phone};
+        Outcome outcome = work(items[i]);
         if (outcome.good) ++good;
         if (!outcome.reason.empty()) reason = std::move(outcome.reason);
-        if (!same_phone) break;
     }
     post([this, words = words_of_failures(items.size() - good, items.size(), reason)] {
         if (!words.empty()) quiet.tell_reason(words);
+    });
+}
+
+template <class Item, class Work>
+void Table_Source::for_each_on(const std::string& phone, const char* doing,
+                               const std::vector<Item>& items, Work work) {
+    for_each_told(doing, items, [&](const Item& item) {
+        return phone_in_use(desktop()) == phone ? work(item) : Outcome{false, another_phone};
     });
 }
 
@@ -191,7 +207,7 @@ void Table_Source::fill_from_phone(Row_List<Row>& rows, Table& table,
     }
     const std::size_t came = loaded.size();
     filling.append(std::move(loaded), told);
-    filling.post_while_mine([this, list, &rows, came] {
+    filling.post_while_mine([this, list, came] {
         say(format(list.loaded, came));
         quiet.tell_of_list(remark_on(list.counted, came));
     });
@@ -232,10 +248,11 @@ std::vector<Row> Table_Source::rows_on_the_screen(const Row_List<Row>& rows, con
 }
 
 template <class Row, class Delete_One>
-bool Table_Source::delete_selected(Row_List<Row>& rows, Table& table, Delete_One delete_one) {
+bool Table_Source::delete_selected(const std::string& phone, Row_List<Row>& rows, Table& table,
+                                   Delete_One delete_one) {
     const Chosen<Row> chosen = chosen_rows(rows, table);
     if (chosen.rows.empty()) return false;
-    for_each_told("Deleting", chosen.rows, delete_one);
+    for_each_on(phone, "Deleting", chosen.rows, delete_one);
     post([&rows, &table, indexes = chosen.indexes, reloads = chosen.reloads] {
         // A load that came in between has put other rows in their places.
         if (table.reloads() == reloads) rows.erase(indexes);

@@ -76,8 +76,10 @@ bool Thumbnail_Cache::has_folder() {
     std::error_code error;
     fs::create_directories(folder_, error);
     if (!fs::is_directory(folder_, error)) return false;
-    fs::permissions(folder_, fs::perms::owner_all, error);  // whoever made it
-    if (!std::exchange(tidied_, true)) remove_what_was_left();
+    if (std::exchange(tidied_, true)) return true;
+    fs::permissions(folder_, fs::perms::owner_all,
+                    fs::perm_options::replace | fs::perm_options::nofollow, error);
+    remove_what_was_left();
     return true;
 }
 

@@ -121,19 +121,19 @@ void Row_Table::set_up_columns() {
     }
 }
 
-// A table that is not shown does not listen.
 void Row_Table::add_selection_entries() {
     auto* const all = new QAction(QStringLiteral("Select All"), this);
-    all->setShortcut(QKeySequence::SelectAll);
+    all->setShortcuts(QKeySequence::SelectAll);
     connect(all, &QAction::triggered, this, &QTableView::selectAll);
     auto* const copy = new QAction(QStringLiteral("Copy"), this);
-    copy->setShortcut(QKeySequence::Copy);
+    copy->setShortcuts(QKeySequence::Copy);
     connect(copy, &QAction::triggered, this, &Row_Table::copy_selection);
     selection_entries_ = {all, copy};
     for (QAction* const entry : selection_entries_) entry->setShortcutContext(Qt::WidgetShortcut);
     addActions(selection_entries_);
 }
 
+// A table that is not shown does not listen.
 void Row_Table::add_sort_entries() {
     for (int i = 0; i < model_->columnCount(); ++i) {
         const QString title = model_->headerData(i, Qt::Horizontal, Qt::DisplayRole).toString();

@@ -25,8 +25,8 @@ class Row_Table : public QTableView {
     void search(const QString& typed);
 
     Table_Model& table_model() { return *model_; }
-    /// Entries of a menu that select all rows and copy the selected ones; their keys work in the
-    /// table alone.
+    /// Entries of a menu that select all rows and copy the selected ones; their keys work where
+    /// the rows are.
     const QList<QAction*>& selection_entries() const { return selection_entries_; }
     /// For each column an entry of a menu, with keys, that does what a click on its header does.
     const QList<QAction*>& sort_entries() const { return sort_entries_; }

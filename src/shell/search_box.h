@@ -17,7 +17,7 @@ class Search_Box : public QLineEdit {
 
     /// Leads into the box; its keys work wherever the box is shown.
     QAction* find() const { return find_; }
-    /// Empties the box; its key works in the table, and is of use while there is something to
+    /// Empties the box; its key works where the rows are, and is of use while there is something to
     /// empty.
     QAction* show_all() const { return show_all_; }
 

@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include <csignal>
+#include <sstream>
 #include <thread>
 
 #include "base/interruptor.h"
@@ -68,6 +69,19 @@ TEST(Child_Process, inherits_nothing_that_is_not_meant_for_it) {
     const std::string ignored = run({"/bin/grep", "SigIgn", "/proc/self/status"}).output;
     std::signal(SIGPIPE, before);
     EXPECT_EQ(std::stoull(ignored.substr(8), nullptr, 16) >> (SIGPIPE - 1) & 1, 0u) << ignored;
+}
+
+TEST(Child_Process, is_out_of_reach_of_the_terminals_keys_unless_it_reads_from_it) {
+    const std::vector<std::string> tell_group = {
+        "/bin/sh", "-c",
+        "read -r pid name state parent group rest </proc/$$/stat; echo $pid $group"};
+    for (const bool shares_input : {false, true}) {
+        std::string pid, group, output;
+        run_child({.words = tell_group, .shares_input = shares_input},
+                  [&](std::string_view piece) { output += piece; });
+        std::istringstream(output) >> pid >> group;
+        EXPECT_EQ(group, shares_input ? std::to_string(getpgrp()) : pid);
+    }
 }
 
 TEST(Child_Process, that_hangs_is_ended_by_closing_the_window) {

@@ -182,7 +182,11 @@ TEST_F(File_Panes, export_over_no_file_out_of_no_folder_and_leave_no_part) {
                   "/p/" + long_name, "/p/..", "/p/.", "/p/", "-p"});
     export_to(photos, folder.path(""));
     EXPECT_THAT(recorder.lines_of("m_LB_TIPS: Faild to save"), testing::SizeIs(7));
-    EXPECT_EQ(adb.calls().size(), 6U);
+    EXPECT_THAT(photo.quiet.m_LB_Quiet.text(), testing::StartsWith("7 of 10 failed: "));
+    load(photos, {"/p/cut.jpg"});
+    export_to(photos, folder.path(""));
+    EXPECT_EQ(photo.quiet.m_LB_Quiet.text(), "The copy was cut off.");
+    EXPECT_EQ(adb.calls().size(), 7U);
     std::map<std::string, std::string> files;
     for (const auto& file : std::filesystem::directory_iterator(folder.path("")))
         files[file.path().filename()] = read_whole_file(file.path()).value_or("none");

@@ -44,6 +44,12 @@ class SMS_Composer : public SMS_Test {
     SMS_Send& composer = sms.composer();
 };
 
+TEST_F(SMS_Composer, sends_nothing_through_another_phone_than_it_was_opened_for) {
+    g_device_serial_number = "another";
+    EXPECT_THAT(send("9;", "hi"), ElementsAre());
+    EXPECT_EQ(composer.m_LB_Quiet.text(), another_phone);
+}
+
 TEST_F(SMS_Composer, refuses_what_it_cannot_send_and_counts_in_utf16_units) {
     EXPECT_THAT(send("", "hi"), ElementsAre());
     EXPECT_EQ(tips(), "Please select contacts or enter phone number!");
