@@ -85,37 +85,38 @@ void Contacts_TableSource::ContactsImport(const std::string& path) {
     For_Thread_Var arguments;
     arguments.m_contacts_import_file_name = path;
     start_guarded(desktop(), g_can_click_contacts_import, "import contacts",
-                  [this, arguments](Held_Flag& running) {
-                      thread_do_read_xml(arguments.m_contacts_import_file_name);
+                  [this, arguments, phone = phone_in_use(desktop())](Held_Flag& running) {
+                      thread_do_read_xml(arguments.m_contacts_import_file_name, phone);
                       running.give_back();
                       post([this] { reload_after_a_change(); });
                   });
 }
 
-void Contacts_TableSource::thread_do_read_xml(const std::string& path) {
+void Contacts_TableSource::thread_do_read_xml(const std::string& path, const std::string& phone) {
     log_line("V1 == %s", path.c_str());
-    read_html(path);
+    read_html(path, phone);
     post([this] {
         say(format("There are %d contact(s) on your Mobile Phone.", table_rows.count()));
         refresh_button_contacts_title();
     });
 }
 
-bool Contacts_TableSource::read_html(const std::string& path) {
+bool Contacts_TableSource::read_html(const std::string& path, const std::string& phone) {
     const Busy_Note note = busy("Reading the file");
     std::string reason;
     const std::optional<std::string> text = readFromFile(path, reason);
-    if (text) reason = is_ContactsHtml(*text) ? import_rows(getContactsFromHtml(*text)) : no_export;
+    if (text)
+        reason =
+            is_ContactsHtml(*text) ? import_rows(getContactsFromHtml(*text), phone) : no_export;
     post([this, reason] { quiet.tell_reason(reason); });
     return reason.empty();
 }
 
-std::string Contacts_TableSource::import_rows(std::string_view rows) {
+std::string Contacts_TableSource::import_rows(std::string_view rows, const std::string& phone) {
     log_line("%s", std::string(rows));
     Busy_Note note = busy("Importing contacts");
     Page_Records records(rows);
     Page_Contact contact;
-    const std::string phone = phone_in_use(desktop());
     std::size_t number = 0;
     std::size_t failed = 0;
     while (!desktop().closing() && records.next(contact)) {

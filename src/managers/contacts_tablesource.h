@@ -62,8 +62,8 @@ class Contacts_TableSource : public Table_Source {
     std::string get_save_fullpath(const std::string& extension);
     /// Writes the table as a page. Worker.
     bool save_to_html(const std::string& path);
-    /// Adds every contact of an exported page to the phone. Worker.
-    bool read_html(const std::string& path);
+    /// Adds every contact of an exported page to the phone with this serial number. Worker.
+    bool read_html(const std::string& path, const std::string& phone);
     /// Writes the table as a property list. Worker.
     bool save_xml(const std::string& path);
     /// Adds every contact of a property list to the table and to the phone. Worker.
@@ -86,9 +86,9 @@ class Contacts_TableSource : public Table_Source {
     /// Asks the phone for all contacts and appends a row for each.
     void TableView_FullData();
     void delete_records_all();
-    void thread_do_read_xml(const std::string& path);
+    void thread_do_read_xml(const std::string& path, const std::string& phone);
     /// Adds the page's contacts to the phone. Gives why not all came over; empty when they did.
-    std::string import_rows(std::string_view rows);
+    std::string import_rows(std::string_view rows, const std::string& phone);
     /// Adds on the phone, then in the table; false when the phone did not answer.
     bool Contacts_Add_One(const std::string& name, const std::string& Tel_PhoneNumber);
     /// Gives the id that the phone gave, empty when it gave none; `answered` (when given) tells

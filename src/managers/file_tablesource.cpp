@@ -109,11 +109,13 @@ Outcome File_TableSource::add_file(const std::string& path, const Phone_Tool& to
     const std::string failure = failure_in(
         ADB_Command().Push_File_To_Android(tool.path, tool.serial, path, pane_.phone_folder));
     sock_apk phone;
-    const bool added =
-        phone.add_one_for_music_image_video_book(phone.getCommand_AddMusicFile(), path.c_str());
+    // The copy may have taken long: the agent is that of the phone in use by now.
+    const bool same_phone = phone_in_use(desktop()) == tool.serial;
+    const bool added = same_phone && phone.add_one_for_music_image_video_book(
+                                         phone.getCommand_AddMusicFile(), path.c_str());
     post_status(format(added ? "Added '%s' successfully!" : "Failed to add '%s'!", path.c_str()));
     if (*pane_.after_add != '\0') post_status(pane_.after_add);
-    return {added && failure.empty(), failure};
+    return {added && failure.empty(), same_phone ? failure : another_phone};
 }
 
 // --- delete -----------------------------------------------------------------------------------

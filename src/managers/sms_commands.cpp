@@ -50,13 +50,14 @@ void SMS_TableSource::SMSDeleteAll() {
 }
 
 void SMS_TableSource::sms_delete_all(const std::string& phone) {
+    const bool was_coming = list_is_coming();
     const int clears = desktop().ask([this] { return table_rows.clears(); });
     const std::vector<SMS_TableSource_Column> tried = rows_on_the_screen(table_rows, m_table);
     for_each_on(phone, "Deleting", tried,
                 [this](const SMS_TableSource_Column& row) { return delete_one(row); });
-    post([this, clears, count = tried.size()] {
+    post([this, was_coming, clears, count = tried.size()] {
         m_LB_sms_content.set_text("");
-        if (count == 0 && !g_can_click_sms_load)
+        if (count == 0 && was_coming)
             return quiet.tell_reason("The list was still coming, so nothing was deleted.");
         const bool some_were_not_tried = table_rows.clears() != clears || table_rows.size() > count;
         table_rows.clear();

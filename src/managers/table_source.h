@@ -78,7 +78,8 @@ class Table_Source {
     Desktop& desktop() { return window_.desktop(); }
 
     // Boxes. What a person chose on one phone may mean something else on another: nothing is done
-    // when another has been connected while the box was open, and the quiet line says so.
+    // when another has been connected while the box was open, and the quiet line says so. That a
+    // panel was cancelled is told in any case.
 
     /// Asks; `agreed` runs behind "Yes".
     void ask_person(const Alert& question, std::function<void()> agreed);

@@ -74,9 +74,9 @@ std::string Thumbnail_Cache::place_for_a_while() {
 
 bool Thumbnail_Cache::has_folder() {
     std::error_code error;
-    fs::create_directories(folder_, error);
+    const bool is_new = fs::create_directories(folder_, error);
     if (!fs::is_directory(folder_, error)) return false;
-    if (std::exchange(tidied_, true)) return true;
+    if (std::exchange(tidied_, true) && !is_new) return true;
     fs::permissions(folder_, fs::perms::owner_all,
                     fs::perm_options::replace | fs::perm_options::nofollow, error);
     remove_what_was_left();

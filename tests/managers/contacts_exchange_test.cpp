@@ -120,6 +120,23 @@ TEST_F(Contacts_Exchange, says_so_when_not_all_contacts_came_over) {
     EXPECT_EQ(quiet(), "That file holds no contacts, or not all of its list.");
 }
 
+TEST_F(Contacts_Exchange, imports_no_more_once_another_phone_is_connected) {
+    const std::string file = folder.path("import.HTML");
+    ASSERT_EQ(write_whole_file(file,
+                               "['ID','Name','Phone Number'],\n['1','Ann','5'],\n"
+                               "['2','Ben','6']\n];"),
+              "");
+    std::promise<void> answer;
+    agent.reply_to('5', Agent_Double::held_back(Agent_Double::added("104"), answer));
+    contacts.ContactsImport(file);
+    ASSERT_TRUE(window.test_desktop.pump_until([&] { return edits().size() == 1; }));
+    g_device_serial_number = "another";
+    answer.set_value();
+    finish();
+    EXPECT_THAT(added(), ElementsAre("Ann*5*|"));
+    EXPECT_EQ(quiet(), another_phone);
+}
+
 TEST_F(Contacts_Exchange, keeps_the_contacts_in_a_property_list) {
     load_three();
     const std::string file = folder.path("contacts.plist");
