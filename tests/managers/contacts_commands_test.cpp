@@ -95,7 +95,7 @@ TEST_F(Contacts_Commands, asks_nothing_of_another_phone_than_was_meant) {
     select({0});
     window.test_desktop.use_dialog([](Dialog& dialog) {
         dynamic_cast<Contacts_Edit&>(dialog).m_Edit_Name.type("Al");
-        g_device_serial_number = "another";
+        swap_phones();
         dialog.OnBT_OK();
     });
     contacts.OnBT_ModifyContacts();
@@ -155,16 +155,15 @@ TEST_F(Contacts_Commands, deletes_nothing_without_a_yes_or_once_the_selection_ha
 TEST_F(Contacts_Commands, leaves_the_rows_of_a_load_alone_that_came_during_a_delete) {
     load_three();
     select({0});
-    std::promise<void> loaded;
-    agent.reply_to('z', Agent_Double::held_back("ok", loaded));
     window.test_desktop.answer_alert(yes);
-    contacts.OnBT_DeleteContacts();
-    ASSERT_TRUE(window.test_desktop.pump_until([&] { return edits().size() == 1; }));
-    contacts.ContactsLoad();
-    ASSERT_TRUE(window.test_desktop.pump_until([] { return g_can_click_contacts_load == 1; }));
-    recorder.clear();
-    loaded.set_value();
-    finish();
+    during_an_edit(
+        'z', [this] { contacts.OnBT_DeleteContacts(); },
+        [this] {
+            contacts.ContactsLoad();
+            EXPECT_TRUE(
+                window.test_desktop.pump_until([] { return g_can_click_contacts_load == 1; }));
+            recorder.clear();
+        });
     // Nothing was taken out of the list that came meanwhile, until it was read again.
     EXPECT_THAT(
         recorder.lines_of("m_table_Contacts reloaded"),

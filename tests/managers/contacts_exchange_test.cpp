@@ -126,13 +126,8 @@ TEST_F(Contacts_Exchange, imports_no_more_once_another_phone_is_connected) {
                                "['ID','Name','Phone Number'],\n['1','Ann','5'],\n"
                                "['2','Ben','6']\n];"),
               "");
-    std::promise<void> answer;
-    agent.reply_to('5', Agent_Double::held_back(Agent_Double::added("104"), answer));
-    contacts.ContactsImport(file);
-    ASSERT_TRUE(window.test_desktop.pump_until([&] { return edits().size() == 1; }));
-    g_device_serial_number = "another";
-    answer.set_value();
-    finish();
+    during_an_edit(
+        '5', [&] { contacts.ContactsImport(file); }, swap_phones, Agent_Double::added("104"));
     EXPECT_THAT(added(), ElementsAre("Ann*5*|"));
     EXPECT_EQ(quiet(), another_phone);
 }

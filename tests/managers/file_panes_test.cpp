@@ -102,13 +102,12 @@ TEST_F(File_Panes, tell_their_load_row_by_row) {
 }
 
 TEST_F(File_Panes, add_nothing_to_another_phone) {
-    std::promise<void> answer;
-    agent.reply_to('l', Agent_Double::held_back("ok", answer));
-    photo.section.drop.take({"/1.jpg", "/2.jpg", "/3.jpg"});
-    ASSERT_TRUE(window.test_desktop.pump_until([&] { return edits().size() == 1; }));
-    g_device_serial_number = "another";
-    answer.set_value();
-    finish();
+    during_an_edit(
+        'l',
+        [this] {
+            photo.section.drop.take({"/1.jpg", "/2.jpg", "/3.jpg"});
+        },
+        swap_phones);
     EXPECT_EQ(edits().size(), 1U);
     EXPECT_EQ(adb.calls().back(), (Lines{"-s", "R58 M", "push", "/1.jpg", "/sdcard/photo"}));
     EXPECT_EQ(photo.quiet.m_LB_Quiet.text(), "2 of 3 failed: " + std::string(another_phone));

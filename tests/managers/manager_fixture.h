@@ -4,6 +4,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <future>
+
 #include "base/text.h"
 #include "support/agent_double.h"
 #include "support/outlet_recorder.h"
@@ -53,6 +56,21 @@ class Manager_Test : public testing::Test {
         std::erase_if(requests, [](const std::string& request) { return request.size() == 1; });
         return requests;
     }
+
+    /// Does `meanwhile` while the first edit that `begin` asks for, with this code, has no answer
+    /// yet; then it gets "ok" (or `reply`), and the work ends.
+    void during_an_edit(int code, const std::function<void()>& begin,
+                        const std::function<void()>& meanwhile, Agent_Double::Reply reply = "ok") {
+        std::promise<void> answer;
+        agent.reply_once_to(code, Agent_Double::held_back(std::move(reply), answer));
+        begin();
+        EXPECT_TRUE(window.test_desktop.pump_until([this] { return edits().size() == 1; }));
+        meanwhile();
+        answer.set_value();
+        finish();
+    }
+    /// Another phone is connected.
+    static void swap_phones() { g_device_serial_number = "another"; }
 
     Agent_Double agent;
     Outlet_Recorder recorder;

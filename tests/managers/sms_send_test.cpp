@@ -45,7 +45,7 @@ class SMS_Composer : public SMS_Test {
 };
 
 TEST_F(SMS_Composer, sends_nothing_through_another_phone_than_it_was_opened_for) {
-    g_device_serial_number = "another";
+    swap_phones();
     EXPECT_THAT(send("9;", "hi"), ElementsAre());
     EXPECT_EQ(composer.m_LB_Quiet.text(), another_phone);
 }

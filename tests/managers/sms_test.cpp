@@ -84,16 +84,14 @@ TEST_F(SMS_Section, deletes_all_one_by_one_in_their_order_and_reads_nothing_afte
 
 TEST_F(SMS_Section, tells_of_messages_that_a_delete_all_took_from_the_table_untried) {
     load_three();
-    std::promise<void> loaded;
-    agent.reply_once_to('N', Agent_Double::held_back("ok", loaded));
     agent.reply_to('N', "ok");
     window.test_desktop.answer_alert(yes);
-    sms.OnBT_SMS_DeleteAll();
-    ASSERT_TRUE(window.test_desktop.pump_until([&] { return edits().size() == 1; }));
-    sms.OnBT_Refresh();
-    ASSERT_TRUE(window.test_desktop.pump_until([] { return g_can_click_sms_load == 1; }));
-    loaded.set_value();
-    finish();
+    during_an_edit(
+        'N', [this] { sms.OnBT_SMS_DeleteAll(); },
+        [this] {
+            sms.OnBT_Refresh();
+            EXPECT_TRUE(window.test_desktop.pump_until([] { return g_can_click_sms_load == 1; }));
+        });
     EXPECT_EQ(edits().size(), 9U);
     EXPECT_EQ(sms.table_rows.count(), 0);
     EXPECT_EQ(g_table_sms_need_refresh, 1);
@@ -102,13 +100,13 @@ TEST_F(SMS_Section, tells_of_messages_that_a_delete_all_took_from_the_table_untr
 
 TEST_F(SMS_Section, deletes_no_more_once_another_phone_is_connected) {
     load_three();
-    std::promise<void> answer;
-    agent.reply_to('N', Agent_Double::held_back("ok", answer));
-    delete_rows({0, 1, 2});
-    ASSERT_TRUE(window.test_desktop.pump_until([&] { return edits().size() == 1; }));
-    g_device_serial_number = "another";
-    answer.set_value();
-    finish();
+    agent.reply_to('N', "ok");
+    during_an_edit(
+        'N',
+        [this] {
+            delete_rows({0, 1, 2});
+        },
+        swap_phones);
     EXPECT_EQ(edits().size(), 3U);
     EXPECT_EQ(sms.quiet.m_LB_Quiet.text(), "2 of 3 failed: " + std::string(another_phone));
 }

@@ -5,6 +5,8 @@
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>
 
+#include "managers/app_rows.h"
+#include "managers/file_rows.h"
 #include "window_test.h"
 
 namespace velk {
@@ -59,6 +61,24 @@ TEST_F(Table_Model_Test, does_not_read_rows_it_has_not_told_of_nor_rows_that_are
     rows.clear();
     EXPECT_FALSE(model.data(last, Qt::DisplayRole).isValid());
     EXPECT_FALSE(model.setData(last, "x", Qt::EditRole));
+}
+
+TEST_F(Table_Model_Test, lets_nobody_write_what_a_command_goes_by) {
+    const auto writable = [](Table_Rows& listed) {
+        Table shown{"shown", listed};
+        const Table_Model its_model{shown};
+        QStringList titles;
+        for (int column = 0; column < its_model.columnCount(); ++column)
+            if (its_model.flags(its_model.index(0, column)) & Qt::ItemIsEditable)
+                titles << its_model.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+        return titles.join(u' ').toStdString();
+    };
+    Row_List<App_TableSource_Column> apps;
+    apps.push_back({"1", "Moss", "a.moss", "1 KB", "1.0"});
+    EXPECT_EQ(writable(apps), "Name Version");
+    Row_List<Photo_TableSource_Column> photos;
+    photos.push_back({"1", "7", "/p/a.jpg", "1 KB"});
+    EXPECT_EQ(writable(photos), "");
 }
 
 TEST_F(Table_Model_Test, takes_in_what_comes_while_something_is_searched_for) {
