@@ -70,7 +70,7 @@ std::string Contacts_TableSource::Contacts_Add_To_APK(const std::string& name,
                                                       bool* answered) {
     const std::string reply = sock_apk().add_one_contact(name.c_str(), Tel_PhoneNumber.c_str());
     std::string id = sock_apk::get_contact_id(reply);
-    post([] { g_phone_was_changed = 1; });
+    post_change();
     if (answered) *answered = !reply.empty();
     post_status(
         result_line(!reply.empty(), "Successfully added", "Faild to add", name, Tel_PhoneNumber));

@@ -188,14 +188,14 @@ void File_TableSource::export_to(const std::string& folder) {
 void File_TableSource::export_files(const std::string& folder, const Phone_Tool& tool) {
     int processed = 0;
     for_each_told("Copying", chosen_files(), [&](const Listed_File& file) {
-        const Pulled pulled = pull_into_folder(desktop(), tool, file.path, folder);
-        const std::string line = format(pulled.done ? "Successfully saved '(%s)%s' to '%s'."
+        const Outcome pulled = pull_into_folder(desktop(), tool, file.path, folder);
+        const std::string line = format(pulled.good ? "Successfully saved '(%s)%s' to '%s'."
                                                     : "Faild to save '(%s)%s' to '%s'.",
                                         file.number.c_str(), file.path.c_str(), folder.c_str());
         post_status(line);
         log_line("%s", line.c_str());
         ++processed;
-        return Outcome{pulled.done && pulled.reason.empty(), pulled.reason};
+        return Outcome{pulled.good && pulled.reason.empty(), pulled.reason};
     });
     if (processed > 0)
         // "musics" whatever was saved, and all that was tried.

@@ -109,30 +109,31 @@ class Moved_Aside {
 
 }  // namespace
 
-Pulled pull_into_folder(Desktop& desktop, const Phone_Tool& tool, const std::string& phone_path,
-                        const std::string& folder) {
+Outcome pull_into_folder(Desktop& desktop, const Phone_Tool& tool, const std::string& phone_path,
+                         const std::string& folder) {
     // Two sections may be copying files of one name into one folder.
     static std::mutex one_at_a_time;
     const std::lock_guard lock(one_at_a_time);
     const std::string name = name_of(phone_path);
     std::error_code error;
-    if (name.empty()) return {.reason = "The phone gives that file no name."};
-    if (!fs::is_directory(folder, error)) return {.reason = "That folder is not there."};
+    if (name.empty()) return {.good = false, .reason = "The phone gives that file no name."};
+    if (!fs::is_directory(folder, error))
+        return {.good = false, .reason = "That folder is not there."};
     const fs::path file = fs::path(folder) / name;
     Moved_Aside old(file);
-    if (old.stuck()) return {.reason = system_reason(errno)};
+    if (old.stuck()) return {.good = false, .reason = system_reason(errno)};
 
     bool cut_off = false;
     const std::string printed =
         ADB_Command().Pull_File_To_Computer(tool.path, tool.serial, phone_path, folder, &cut_off);
-    Pulled pulled{
-        .done = printed.empty() && !cut_off && !desktop.closing(),
+    Outcome pulled{
+        .good = printed.empty() && !cut_off && !desktop.closing(),
         .reason = cut_off && printed.empty() ? "The copy was cut off." : last_line(printed)};
-    if (pulled.done && !is_there(file))
+    if (pulled.good && !is_there(file))
         pulled.reason = "The file did not arrive.";
-    else if (pulled.done && old.moved() && !rename_to_numbered(file, file))
-        pulled = {.reason = system_reason(errno)};
-    if (!pulled.done && !old.replace_what_is_left()) fs::remove_all(file, error);
+    else if (pulled.good && old.moved() && !rename_to_numbered(file, file))
+        pulled = {.good = false, .reason = system_reason(errno)};
+    if (!pulled.good && !old.replace_what_is_left()) fs::remove_all(file, error);
     return pulled;
 }
 

@@ -9,6 +9,7 @@
 #include "agent/sock_apk.h"
 #include "base/text.h"
 #include "managers/filling.h"
+#include "managers/outcome.h"
 #include "managers/phone_tool.h"
 #include "managers/quiet_line.h"
 #include "ui/busy_line.h"
@@ -23,12 +24,6 @@ namespace velk {
 inline constexpr const char* delete_selected_question =
     "Are you sure you want to delete the selected item(s)?";
 inline constexpr const char* delete_all_question = "Are your sure you want to delete all items?";
-
-/// What became of one of several things.
-struct Outcome {
-    bool good = true;
-    std::string reason = {};  // why it is not, or not as it should be, in a line; may be empty
-};
 
 /// A list of the phone's, and what is said of it.
 template <class Record>
