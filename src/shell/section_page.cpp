@@ -57,10 +57,8 @@ QLayout* Section_Page::title_row() {
     auto* const search = new Search_Box(*table_, shown(section_.search_text), this);
     menu_entries_.append({search->find(), search->show_all()});
     menu_entries_.append(table_->selection_entries());
-    if (pictures_) {
-        pictures_->addAction(search->show_all());
-        pictures_->addActions(table_->selection_entries());
-    }
+    for (QAction* const entry : table_->selection_entries()) give_to_rows(entry);
+    give_to_rows(search->show_all());
     add_separator_to_menu();
     menu_entries_.append(table_->sort_entries());
     row->addWidget(search, 1);
@@ -80,8 +78,12 @@ void Section_Page::add_menu_entry(const Command& command) {
     QAction* const entry = command_action(command, parts_.guards, this);
     menu_entries_.append(entry);
     if (!command.on_delete_key) return;
-    // The rows' key: what is typed elsewhere must not delete them.
     entry->setShortcut(QKeySequence::Delete);
+    give_to_rows(entry);
+}
+
+// The entry's key works where the rows are shown: typed elsewhere it must not act on them.
+void Section_Page::give_to_rows(QAction* entry) {
     entry->setShortcutContext(Qt::WidgetShortcut);
     table_->addAction(entry);
     if (pictures_) pictures_->addAction(entry);

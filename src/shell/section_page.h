@@ -33,6 +33,7 @@ class Section_Page : public QWidget {
     QWidget* table_and_detail();
     QLayout* status_lines();
     void add_menu_entry(const Command& command);
+    void give_to_rows(QAction* entry);
     void add_switch_to_menu(QPushButton* half, const QKeySequence& keys);
     void add_separator_to_menu();
     void make_pictures();

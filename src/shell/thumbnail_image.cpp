@@ -22,7 +22,7 @@ QSize within(QSize size, QSize most) {
 
 /// The formats of photos, as far as there are readers. A drawing, whatever its name, could keep its
 /// reader busy for minutes.
-bool is_a_photos(const QByteArray& format) {
+bool is_photo_format(const QByteArray& format) {
     static const QList<QByteArray> formats = QImageReader::supportedImageFormats();
     static const QList<QByteArray> photos = {"bmp", "gif", "jpeg", "jpg", "png", "webp"};
     return photos.contains(format) && formats.contains(format);
@@ -31,14 +31,14 @@ bool is_a_photos(const QByteArray& format) {
 }  // namespace
 
 bool has_reader(const std::string& path) {
-    return is_a_photos(QFileInfo(shown(path)).suffix().toLower().toLatin1());
+    return is_photo_format(QFileInfo(shown(path)).suffix().toLower().toLatin1());
 }
 
 // A reader that scales while it reads needs a fraction of the memory and the time.
 std::string small_picture(const std::string& file) {
     QImageReader reader(QFile::decodeName(file.c_str()));
     reader.setDecideFormatFromContent(true);
-    if (!is_a_photos(reader.format())) return {};
+    if (!is_photo_format(reader.format())) return {};
     reader.setAutoTransform(true);
     if (const QSize size = reader.size(); size.isValid()) {
         const bool turned = reader.transformation() & QImageIOHandler::TransformationRotate90;
