@@ -2,7 +2,6 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
-#include <QEvent>
 #include <QSocketNotifier>
 #include <QWindow>
 #include <algorithm>
@@ -12,22 +11,18 @@
 
 namespace velk {
 
-namespace {
-
-const QEvent::Type wake_up = static_cast<QEvent::Type>(QEvent::registerEventType());
-
-}  // namespace
-
-// The event carries nothing: what is to be done was handed over under the queue's own lock.
-void Qt_Desktop::wake() {
-    QCoreApplication::postEvent(this, new QEvent(wake_up));
+Qt_Desktop::Qt_Desktop() {
+    connect(this, &Qt_Desktop::woken, this, &Qt_Desktop::turn, Qt::QueuedConnection);
 }
 
-bool Qt_Desktop::event(QEvent* event) {
-    if (event->type() != wake_up) return QObject::event(event);
+// Nothing goes with it: what is to be done was handed over under the queue's own lock.
+void Qt_Desktop::wake() {
+    emit woken();
+}
+
+void Qt_Desktop::turn() {
     run_turn();
     emit turn_ended();
-    return true;
 }
 
 void Qt_Desktop::set_window(QWidget* window) {

@@ -18,6 +18,8 @@ class Qt_Desktop : public QObject, public Desktop {
     Q_OBJECT
 
   public:
+    Qt_Desktop();
+
     /// The window that boxes stand before. Without one they stand alone.
     void set_window(QWidget* window);
 
@@ -38,14 +40,16 @@ class Qt_Desktop : public QObject, public Desktop {
   signals:
     /// A turn of the queue is over: what its closures changed can be looked at again.
     void turn_ended();
+    /// Closures wait. Emitted on any thread.
+    void woken();
 
   protected:
     void show_dialog(Dialog& dialog, std::function<void()> closed) override;
     void input_changed() override { input_hold_.hold(!takes_input()); }
     void wake() override;
-    bool event(QEvent* event) override;
 
   private:
+    void turn();
     /// What stands foremost: the box that was opened last, else the window.
     QWidget* front() const;
     /// The second of two quick clicks may give the keys back to a window behind a box.

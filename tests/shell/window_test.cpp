@@ -77,6 +77,14 @@ Open_Window::~Open_Window() {
     document.reset();
 }
 
+void Open_Window::turn() {
+    auto last = std::make_shared<bool>();  // goes when its turn comes, or at once after the end
+    const std::weak_ptr<bool> waiting = last;
+    desktop.post([last = std::move(last)] {});
+    EXPECT_TRUE(wait_until([&waiting] { return waiting.expired(); }));
+    QTest::qWait(0);
+}
+
 void Open_Window::connect() {
     g_connected_adb = 1;
     g_table_contacts_need_refresh = g_table_sms_need_refresh = 0;

@@ -39,8 +39,9 @@ class Open_Window {
         QTest::mouseClick(find<QAbstractButton>(name), Qt::LeftButton);
         turn();
     }
-    /// Lets everything happen that was posted.
-    void turn() { QTest::qWait(0); }
+    /// Lets everything happen that was posted, in however many turns of the queue a busy machine
+    /// needs for it.
+    void turn();
     /// As after a connection: the sections open, and nothing is loaded again.
     void connect();
     /// A phone's values in every outlet.
