@@ -23,6 +23,11 @@ struct Free {
 };
 using Node = std::unique_ptr<void, Free>;
 
+/// Memory that the library has handed over. It comes from malloc; the library's own function for
+/// freeing it is called differently in 2.2 and in 2.6.
+template <class Type>
+using Handed_Over = std::unique_ptr<Type, decltype(&std::free)>;
+
 constexpr char32_t replacement = 0xFFFD;
 
 bool fits_xml(char32_t character) {
@@ -65,12 +70,12 @@ std::map<int, plist_t> indexed_nodes(plist_t dictionary) {
     std::map<int, plist_t> nodes;
     plist_dict_iter raw = nullptr;
     plist_dict_new_iter(dictionary, &raw);
-    const std::unique_ptr<void, decltype(&std::free)> iterator(raw, &std::free);
+    const Handed_Over<void> iterator(raw, &std::free);
     for (;;) {
         char* raw_key = nullptr;
         plist_t value = nullptr;
         plist_dict_next_item(dictionary, raw, &raw_key, &value);
-        const std::unique_ptr<char, decltype(&std::free)> key(raw_key, &std::free);
+        const Handed_Over<char> key(raw_key, &std::free);
         if (value == nullptr) return nodes;
         const int index = to_int32(key.get());
         if (index >= 0 && std::to_string(index) == key.get()) nodes[index] = value;
@@ -140,7 +145,7 @@ std::string property_list_of(const std::vector<Listed_Contact>& contacts) {
     char* raw = nullptr;
     std::uint32_t length = 0;
     plist_to_xml(dictionary.get(), &raw, &length);
-    const std::unique_ptr<char, decltype(&plist_to_xml_free)> xml(raw, &plist_to_xml_free);
+    const Handed_Over<char> xml(raw, &std::free);
     return std::string(raw == nullptr ? "" : raw, raw == nullptr ? 0 : length);
 }
 

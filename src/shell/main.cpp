@@ -24,9 +24,9 @@
 
 namespace {
 
-int print(const velk::Answer& answer) {
-    std::fputs(answer.text.c_str(), answer.status == 0 ? stdout : stderr);
-    return answer.status;
+int print(const velk::Exit_Message& message) {
+    std::fputs(message.text.c_str(), message.status == 0 ? stdout : stderr);
+    return message.status;
 }
 
 /// The status to end with, when this is not to be the one that runs.

@@ -24,18 +24,18 @@ constexpr const char* help =
 
 Options wrong(const std::string& text) {
     Options options;
-    options.wrong = Answer{"velk: " + text + "; see velk --help\n", wrong_use};
+    options.wrong = Exit_Message{"velk: " + text + "; see velk --help\n", wrong_use};
     return options;
 }
 
 }  // namespace
 
-std::optional<Answer> answer_without_display(int count, const char* const* arguments) {
+std::optional<Exit_Message> answer_without_display(int count, const char* const* arguments) {
     for (int i = 1; i < count; ++i) {
         const std::string_view argument = arguments[i];
-        if (argument == "--help" || argument == "-h") return Answer{help};
+        if (argument == "--help" || argument == "-h") return Exit_Message{help};
         if (argument == "--version")
-            return Answer{std::string(g_product_name) + " " + g_version + "\n"};
+            return Exit_Message{std::string(g_product_name) + " " + g_version + "\n"};
     }
     return std::nullopt;
 }

@@ -145,20 +145,20 @@ class Report : public On_The_Demo_Phone {
                                                      {DEFINE_VIEW_Photo, "alder photo.jpg"},
                                                      {DEFINE_VIEW_Video, "alder film.mp4"},
                                                      {DEFINE_VIEW_Book, "alder book.epub"}};
-        for (const auto& [id, name] : panes) {
-            step("add to " + section(id).title, [this, id = id, name = name] {
+        for (const auto& [view, file_name] : panes) {
+            step("add to " + section(view).title, [this, id = view, name = file_name] {
                 desktop.choose_file(new_file(name));
                 desktop.answer_alert(0);
                 press(id, "Add");
             });
-            step("export from " + section(id).title, [this, id = id] {
+            step("export from " + section(view).title, [this, id = view] {
                 select_first(id);
                 std::filesystem::create_directory(file("out"));
                 desktop.choose_file(file("out"));
                 desktop.answer_alert(0);
                 press(id, "Export");
             });
-            step("delete from " + section(id).title, [this, id = id] {
+            step("delete from " + section(view).title, [this, id = view] {
                 select_first(id);
                 desktop.answer_alert(yes);
                 press(id, "Delete");
