@@ -8,6 +8,7 @@
 #include <cmath>
 #include <utility>
 
+#include "base/trace.h"
 #include "shell/pictures.h"
 
 static void make_resources_known() {
@@ -110,6 +111,7 @@ QString Look::fill_in(QString style_sheet) const {
 
 Look_Keeper::Look_Keeper() {
     make_resources_known();
+    if (!can_read_drawings()) log_line("%s", no_drawings);
     QApplication::setStyle(QStringLiteral("Fusion"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/velk.svg")));
     dress();

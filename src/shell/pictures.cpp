@@ -95,6 +95,10 @@ class Themed_Icon : public QIconEngine {
 
 }  // namespace
 
+bool can_read_drawings() {
+    return QImageReader::supportedImageFormats().contains("svg");
+}
+
 QPixmap icon_pixmap(const QString& name, QSize size, qreal ratio, const QColor& ink) {
     const QString key = key_of("icon " + name, size, ratio, ink.name());
     QPixmap pixmap;

@@ -9,6 +9,10 @@
 
 namespace velk {
 
+/// False when this system has no reader for drawings: a plugin, which no linker misses.
+bool can_read_drawings();
+constexpr const char* no_drawings = "the icons cannot be drawn: Qt's plugin for SVG is missing";
+
 /// An icon's drawing in one colour; `ratio` is the screen's device pixels per pixel. Empty when
 /// there is no such drawing, or no reader for it on this system.
 QPixmap icon_pixmap(const QString& name, QSize size, qreal ratio, const QColor& ink);

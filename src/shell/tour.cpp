@@ -18,6 +18,7 @@
 
 #include "base/text.h"
 #include "session/main_document.h"
+#include "shell/pictures.h"
 #include "shell/velk_window.h"
 #include "ui/section.h"
 
@@ -57,7 +58,9 @@ Tour::Tour(MainDocument& document, Velk_Window& window, std::string folder)
     connect(qApp, &QCoreApplication::aboutToQuit, this, [this] {
         if (!finished_) fail("the window was closed");
     });
-    if (QDir().mkpath(shown(folder_))) {
+    if (!can_read_drawings()) {
+        fail(no_drawings);
+    } else if (QDir().mkpath(shown(folder_))) {
         plan();
         timer_.start();
         start_next();
