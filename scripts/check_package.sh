@@ -61,6 +61,7 @@ judge_package() {
     check_options
 }
 
+scripts/install_dependencies.sh --package
 say 'Package'
 build_package
 dpkg-deb --info "$package"

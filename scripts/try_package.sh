@@ -20,8 +20,9 @@ ordinary_user=1000
 
 folder=$(mktemp -d)
 root=$folder/root
+leave_system() { if mountpoint --quiet "$root"; then umount --recursive "$root"; fi; }
 clean_up() {
-    if mountpoint --quiet "$root/proc"; then umount "$root/proc"; fi
+    leave_system
     rm -rf --one-file-system "$folder"
 }
 trap clean_up EXIT
@@ -33,27 +34,8 @@ within() { chroot "$root" /usr/bin/env DEBIAN_FRONTEND=noninteractive "$@"; }
 tried() { "$@" >"$folder/log" 2>&1 || { tail -n 20 "$folder/log" >&2 && return 1; }; }
 quietly() { tried "$@" || fail "failed: $*"; }
 
-# This computer's own sources of Debian packages, as lines for a sources.list.
-sources() {
-    apt-get indextargets --format 'deb $(SITE) $(CODENAME) $(COMPONENT)' \
-        'Created-By: Packages' 'Origin: Debian'
-}
-
-make_clean_debian() {
-    local suite mirror
-    suite=$(. /etc/os-release && echo "$VERSION_CODENAME")
-    [ -n "$(sources)" ] || tried apt-get update || return 1
-    mirror=$(sources | awk -v suite="$suite" '$3 == suite { print $2; exit }')
-    [ -n "$mirror" ] || { echo 'No source of Debian packages is known.' && return 1; }
-    tried debootstrap --variant=minbase "$suite" "$root" "$mirror" || return 1
-    sources >"$root/etc/apt/sources.list"
-    apt-config dump Acquire >"$root/etc/apt/apt.conf.d/as-on-this-computer" # its proxy, above all
-    mount -t proc proc "$root/proc" || return 1
-    echo force-unsafe-io >"$root/etc/dpkg/dpkg.cfg.d/short-lived" # nothing here outlives a crash
-    tried within apt-get update && tried within apt-get --yes upgrade
-}
-
 make_empty_folder() {
+    leave_system
     rm -rf --one-file-system "$root"
     mkdir -p "$root/tmp" "$root"/var/lib/dpkg/{info,updates,triggers}
     touch "$root"/var/lib/dpkg/{status,available}
@@ -138,7 +120,7 @@ tour() {
 
 if [ "$kind" = clean ]; then
     say "A fresh Debian (a minute or two)"
-    if ! make_clean_debian; then
+    if ! "$scripts/clean_debian.sh" "$(. /etc/os-release && echo "$VERSION_CODENAME")" "$root"; then
         echo 'No clean Debian can be made here; the package is unpacked into a folder instead.'
         kind=unpacked
     fi
