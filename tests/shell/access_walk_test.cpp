@@ -68,13 +68,14 @@ class Access_Walk : public testing::TestWithParam<bool> {
         open.turn();
         QWidget* const box = QApplication::activeModalWidget();
         ASSERT_TRUE(box) << where;
+        EXPECT_TRUE(wait_until_active(*box)) << where;
         walk(*box, where);
         box->close();
         // The platform without a display leaves nobody in front.
         QWidget* const below = QApplication::activeModalWidget();
         QWidget* const front = below ? below : open.window.get();
         front->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(front));
+        EXPECT_TRUE(wait_until_active(*front));
     }
     void show(int view, bool summary = false) {
         open.document->hidden_some(!summary);
@@ -156,6 +157,7 @@ TEST_P(Access_Walk, leads_through_every_box) {
     walk_box("Contacts_Edit");
     show(DEFINE_VIEW_SMS);
     press(Qt::Key_N);
+    ASSERT_TRUE(wait_until_active(*QApplication::activeModalWidget()));
     press(Qt::Key_C, Qt::AltModifier);
     ASSERT_TRUE(wait_until(
         [] { return QApplication::activeModalWidget()->objectName() == "SMS_Contacts"; }));
@@ -186,7 +188,7 @@ TEST(Access_Walk_Itself, finds_what_is_wrong) {
     column->addWidget(right);
     column->addWidget(wrong);
     window.show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    ASSERT_TRUE(wait_until_active(window));
     const struct {
         Check check;
         std::function<void()> spoil, mend;

@@ -42,7 +42,7 @@ class By_Keys_Alone : public testing::Test, protected Demo_Phone_Programs {
     void bring_front() {
         QWidget* const front = box() ? box() : open.window.get();
         front->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(front));
+        ASSERT_TRUE(wait_until_active(*front));
     }
     bool work_ends() {
         return wait_until([this] { return !open.document->is_at_work(); });

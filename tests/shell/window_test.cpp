@@ -54,6 +54,12 @@ bool wait_until(const std::function<bool()>& condition) {
     return QTest::qWaitFor(condition, 10'000);
 }
 
+bool wait_until_active(const QWidget& window) {
+    return wait_until([&window] {
+        return window.isActiveWindow() && QGuiApplication::focusWindow() == window.windowHandle();
+    });
+}
+
 Open_Window::Open_Window(const std::string& folder) {
     test_application();
     document = std::make_unique<MainDocument>(desktop, folder);
@@ -62,7 +68,7 @@ Open_Window::Open_Window(const std::string& folder) {
         *document, *window, desktop, DhAppDelegate::Places{QStringLiteral(":/option.cfg"), {}});
     window->menu().name_after(QStringLiteral("Velk"));
     window->show();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    EXPECT_TRUE(wait_until_active(*window));
 }
 
 Open_Window::~Open_Window() {

@@ -21,6 +21,8 @@ QApplication& test_application();
 
 /// Turns the event loop until the condition holds; false when it has not after ten seconds.
 bool wait_until(const std::function<bool()>& condition);
+/// The toolkit's own way is for platforms where a program may choose who is active.
+bool wait_until_active(const QWidget& window);
 
 class Open_Window {
   public:
