@@ -24,9 +24,9 @@ own_sources() {
 
 own_system=$(. /etc/os-release && echo "${VERSION_CODENAME:-}")
 [ -n "$(own_sources)" ] || tried apt-get update
-sources=$(own_sources | awk -v own="$own_system" -v system="$system" \
-    '$3 ~ "^" own "(-|$)" { sub("^" own, system, $3); print }')
-mirror=$(awk -v system="$system" '$3 == system { print $2; exit }' <<<"$sources")
+sources=$(own_sources | awk -v own="$own_system" -v wanted="$system" \
+    '$3 ~ "^" own "(-|$)" { sub("^" own, wanted, $3); print }')
+mirror=$(awk -v wanted="$system" '$3 == wanted { print $2; exit }' <<<"$sources")
 [ -n "$mirror" ] || { echo 'clean_debian: no source of Debian packages is known' >&2 && exit 1; }
 
 mkdir -p "$root"
