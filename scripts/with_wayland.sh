@@ -27,7 +27,7 @@ trap 'exit 129' HUP
 
 cat >"$folder/config" <<'CONFIG'
 xwayland disable
-output HEADLESS-1 resolution 1280x800
+output HEADLESS-1 resolution 2560x1440
 default_border none
 for_window [app_id=".*"] floating enable
 seat seat0 fallback true
