@@ -13,6 +13,7 @@ if [ "${1:-}" != --inside ]; then exec unshare --mount "$0" --inside; fi
 mount -t tmpfs tmpfs /run
 mkdir -p /run/udev/rules.d
 cp "$rules" /run/udev/rules.d
+: >/run/udev/rules.d/70-uaccess.rules # takes the place of the system's own, which may give some phones away
 
 # interfaces CLASS...: a device's descriptors with these interfaces, each with one endpoint.
 interfaces() {
