@@ -24,7 +24,7 @@ packages=(
 for_package=(
     dpkg-dev file librsvg2-bin gzip             # make the package
     lintian desktop-file-utils appstream man-db # judge it
-    debootstrap udev                            # try it
+    debootstrap udev systemd                    # try it; systemd, or udev itself, acts on its rule
 )
 for_all=(
     clang clang-format clang-tidy
