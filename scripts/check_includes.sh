@@ -48,6 +48,9 @@ forbid 'libudev outside session/usb_monitor' \
     < <(includes 'libudev\.h' src demo_phone launcher | grep -v '^src/session/usb_monitor\.' || true)
 forbid 'libplist outside export/property_list' \
     < <(includes 'plist/' src demo_phone launcher | grep -v '^src/export/property_list\.' || true)
+forbid 'JSON outside the second wire' \
+    < <(includes '(simdjson|nlohmann)' src launcher |
+        grep -vE '^src/agent/(second_wire|wire_choice)' || true)
 forbid 'an include that climbs by path' < <(includes '\.\./' src demo_phone launcher tests)
 
 [ "$violations" -eq 0 ]

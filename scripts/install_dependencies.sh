@@ -15,6 +15,7 @@ packages=(
     'qt6-svg-plugins|libqt6svg6'      # its icons; the older release has the plugin in the library's package
     libudev-dev                       # notices a phone that is plugged in
     libplist-dev                      # contacts as a property list
+    libsimdjson-dev nlohmann-json3-dev  # what goes over the second wire
     adb                               # talks to the phone
     libgtest-dev libgmock-dev         # the tests
     libumockdev-dev umockdev          # a USB bus for them and for the demo phone

@@ -26,25 +26,26 @@ bool may_try_again() {
     return Interruptor::current().sleep_for(resend_pause);
 }
 
-sockaddr_in agent_endpoint() {
+sockaddr_in agent_endpoint(std::uint16_t port) {
     sockaddr_in endpoint{};
     endpoint.sin_family = AF_INET;
-    endpoint.sin_port = htons(agent_port);
+    endpoint.sin_port = htons(port);
     endpoint.sin_addr.s_addr = inet_addr(agent_address);
     return endpoint;
 }
 
 }  // namespace
 
-Channel::Channel() : descriptor_(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0)) {
+Channel::Channel(std::uint16_t port)
+    : descriptor_(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0)) {
     if (descriptor_ < 0)
         trace("initialize socket fail ! \r\n");
     else
-        connect();
+        connect(port);
 }
 
-void Channel::connect() {
-    const sockaddr_in endpoint = agent_endpoint();
+void Channel::connect(std::uint16_t port) {
+    const sockaddr_in endpoint = agent_endpoint(port);
     int failed = 0;
     {
         const Interruptor::Socket connecting(descriptor_);
@@ -79,6 +80,16 @@ bool Channel::send_whole(const std::string& request) {
         sent = ::send(descriptor_, request.data(), request.size(), 0);
     } while (sent < 0 && may_try_again());
     return sent > 0;
+}
+
+bool Channel::send_all(std::string_view bytes) {
+    while (!bytes.empty()) {
+        const ssize_t sent = ::send(descriptor_, bytes.data(), bytes.size(), 0);
+        if (sent < 0 && errno == EINTR) continue;
+        if (sent <= 0) return false;
+        bytes.remove_prefix(static_cast<std::size_t>(sent));
+    }
+    return true;
 }
 
 std::string Channel::receive_reply() {

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "agent/chunk_source.h"
 #include "base/interruptor.h"
@@ -22,7 +23,7 @@ inline constexpr std::size_t largest_single_reply = 1024;
 class Channel : public Byte_Source {
   public:
     /// Connects; a failure is reported on standard output or standard error.
-    Channel();
+    explicit Channel(std::uint16_t port = agent_port);
     ~Channel() override;
     Channel(const Channel&) = delete;
     Channel& operator=(const Channel&) = delete;
@@ -33,6 +34,8 @@ class Channel : public Byte_Source {
     void send_code(const char* code);
     /// Sends a whole request. False when none of it went out.
     bool send_whole(const std::string& request);
+    /// Sends all of it, in as many pieces as the system takes. False when the connection ended.
+    bool send_all(std::string_view bytes);
     /// What one read gives of a single reply; empty when the other side has closed.
     std::string receive_reply();
 
@@ -40,7 +43,7 @@ class Channel : public Byte_Source {
     int receive(char* bytes, std::size_t most) override;
 
   private:
-    void connect();
+    void connect(std::uint16_t port);
 
     int descriptor_;
     std::optional<Interruptor::Socket> registered_;  // only while connected

@@ -1,6 +1,7 @@
 // Numbers and display texts of the wire. The agent counts on every wrap in here.
 #include <cstdint>
 
+#include "agent/shown_numbers.h"
 #include "agent/sock_apk.h"
 #include "base/text.h"
 #include "base/trace.h"
@@ -27,6 +28,21 @@ std::string little_endian(std::uint32_t number) {
 
 }  // namespace
 
+std::string shown_size(double size) {
+    if (TERA != 0 && size > TERA) return format("%0.2f TB", size / TERA);
+    if (size > GIGA) return format("%0.2f GB", size / GIGA);
+    if (size > MEGA) return format("%0.2f MB", size / MEGA);
+    if (size > KILO) return format("%0.2f KB", size / KILO);
+    return format("%0.2f B", size);
+}
+
+std::string shown_time(std::int64_t milliseconds) {
+    const std::int64_t seconds = milliseconds / 1000;
+    const auto hours = static_cast<long long>(seconds / 3600);
+    return format("%02lld:%02d:%02d", hours, static_cast<int>(seconds / 60 % 60),
+                  static_cast<int>(seconds % 60));
+}
+
 int sock_apk::for_java_char4_to_int(std::string_view four_bytes) {
     return byte_at(four_bytes, 2) * 256 + byte_at(four_bytes, 3);
 }
@@ -52,20 +68,11 @@ std::string sock_apk::format_size(std::int32_t bytes) {
 }
 
 std::string sock_apk::get_size(const char* decimal) {
-    const double size = to_int32(decimal);
-    if (TERA != 0 && size > TERA) return format("%0.2f TB", size / TERA);
-    if (size > GIGA) return format("%0.2f GB", size / GIGA);
-    if (size > MEGA) return format("%0.2f MB", size / MEGA);
-    if (size > KILO) return format("%0.2f KB", size / KILO);
-    return format("%0.2f B", size);
+    return shown_size(to_int32(decimal));
 }
 
 std::string sock_apk::get_time(const char* decimal) {
-    const int seconds = static_cast<int>(to_int32(decimal) * 0.001);
-    const int hours = seconds / 3600;
-    const int minutes = (seconds - 3600 * hours) / 60;
-    const std::string text =
-        format("%02d:%02d:%02d", hours, minutes, seconds - 3600 * hours - 60 * minutes);
+    const std::string text = shown_time(to_int32(decimal));
     trace("%s", text.c_str());
     return text;
 }

@@ -5,7 +5,10 @@
 #include "agent/channel.h"
 #include "agent/contact_replies.h"
 #include "agent/edit_request.h"
+#include "agent/second_wire_edits.h"
+#include "agent/second_wire_lists.h"
 #include "agent/sock_apk.h"
+#include "agent/wire_choice.h"
 #include "base/text.h"
 #include "base/trace.h"
 
@@ -19,12 +22,22 @@ constexpr char code_add = '5';
 constexpr char code_delete = 'z';
 constexpr char code_modify = '{';
 
+/// A reply to an add as the first wire brings it.
+std::string add_reply_with(const std::string& id) {
+    const auto high = static_cast<char>(id.size() >> 8), low = static_cast<char>(id.size());
+    return std::string(reply_header + 2, '\0') + high + low + id;
+}
+
 }  // namespace
 
 std::string sock_apk::send_command_get_contatcts_array(const char* code,
                                                        std::vector<CONTACT>& contacts,
                                                        bool* too_long) {
     if (too_long != nullptr) *too_long = false;
+    if (second_wire_in_use()) {
+        refusal_ = list_on_second_wire(contacts);
+        return {};
+    }
     Channel agent;
     if (!agent.connected()) return {};
     agent.send_code(code);
@@ -102,7 +115,10 @@ std::string sock_apk::get_del_contact_command(const char* ID) {
 }
 
 std::string sock_apk::add_one_contact(const char* name, const char* tel) {
-    return send_command(get_add_contact_command(name, tel));
+    refusal_.clear();
+    if (!second_wire_in_use()) return send_command(get_add_contact_command(name, tel));
+    const Edit_Result added = add_contact(name, tel);
+    return is_done(added) ? add_reply_with(added.id) : "";
 }
 
 std::string sock_apk::get_contact_id(const std::string& add_reply) {
@@ -115,10 +131,12 @@ std::string sock_apk::get_contact_id(const std::string& add_reply) {
 }
 
 bool sock_apk::modify_one_contact(const char* name, const char* tel, const char* ID) {
+    if (second_wire_in_use()) return is_done(change_contact(ID, name, tel));
     return is_answered(get_modify_contact_command(name, tel, ID));
 }
 
 bool sock_apk::del_one_contact(const char* ID) {
+    if (second_wire_in_use()) return is_done(delete_contact(ID));
     return is_answered(get_del_contact_command(ID));
 }
 

@@ -3,7 +3,9 @@
 #include "agent/bytes.h"
 #include "agent/carried_list.h"
 #include "agent/record_places.h"
+#include "agent/second_wire_lists.h"
 #include "agent/sock_apk.h"
+#include "agent/wire_choice.h"
 #include "base/text.h"
 #include "base/trace.h"
 
@@ -146,8 +148,10 @@ bool ends_list(const std::string& left) {
     return left.empty();
 }
 
+/// Gives why records are missing, as far as the wire in use tells.
 template <const auto& fields, class Record>
 std::string fetch(const char* code, std::vector<Record>& records) {
+    if (second_wire_in_use()) return list_on_second_wire(records);
     Record_Places places(largest_chunk, list_header, stretch_of<fields>);
     const auto parse_chunk = [&records](const std::string& bytes, int start) {
         return parse<fields>(bytes, static_cast<int>(bytes.size()), records, start);
@@ -159,23 +163,28 @@ std::string fetch(const char* code, std::vector<Record>& records) {
 }  // namespace
 
 std::string sock_apk::send_command_get_app_list(const char* code, std::vector<App>& apps) {
-    return fetch<app_fields>(code, apps);
+    refusal_ = fetch<app_fields>(code, apps);
+    return {};
 }
 
 std::string sock_apk::send_command_get_music(const char* code, std::vector<Music>& music) {
-    return fetch<music_fields>(code, music);
+    refusal_ = fetch<music_fields>(code, music);
+    return {};
 }
 
 std::string sock_apk::send_command_get_video(const char* code, std::vector<Video>& videos) {
-    return fetch<video_fields>(code, videos);
+    refusal_ = fetch<video_fields>(code, videos);
+    return {};
 }
 
 std::string sock_apk::send_command_get_photo(const char* code, std::vector<Photo>& photos) {
-    return fetch<photo_fields>(code, photos);
+    refusal_ = fetch<photo_fields>(code, photos);
+    return {};
 }
 
 std::string sock_apk::send_command_get_book(const char* code, std::vector<Book>& books) {
-    return fetch<book_fields>(code, books);
+    refusal_ = fetch<book_fields>(code, books);
+    return {};
 }
 
 std::string sock_apk::get_app_list(const std::string& data, int length, int /*first*/,

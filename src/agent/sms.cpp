@@ -3,7 +3,10 @@
 #include "agent/carried_list.h"
 #include "agent/edit_request.h"
 #include "agent/record_places.h"
+#include "agent/second_wire_edits.h"
+#include "agent/second_wire_lists.h"
 #include "agent/sock_apk.h"
+#include "agent/wire_choice.h"
 #include "base/text.h"
 #include "base/trace.h"
 
@@ -54,6 +57,10 @@ bool ends_list(const std::string& left) {
 }  // namespace
 
 std::string sock_apk::send_command_get_sms(const char* code, std::vector<SMS_RECORD>& messages) {
+    if (second_wire_in_use()) {
+        refusal_ = list_on_second_wire(messages);
+        return {};
+    }
     Record_Places places(largest_chunk, packet_header, record_or_header);
     const auto parse = [&messages](const std::string& bytes, int start) {
         return get_sms_data_to_stru_array(bytes, static_cast<int>(bytes.size()), 1, messages, start,
@@ -116,14 +123,17 @@ std::string sock_apk::get_del_sms_command(const char* ID, const char* threadID, 
 }
 
 bool sock_apk::del_one_sms(const char* ID, const char* threadID) {
+    if (second_wire_in_use()) return true;
     return is_answered(get_del_sms_command(ID, threadID, variant_usual));
 }
 
 bool sock_apk::del_one_sms_for_NoS4(const char* ID, const char* threadID) {
+    if (second_wire_in_use()) return true;
     return is_answered(get_del_sms_command(ID, threadID, variant_no_s4));
 }
 
 bool sock_apk::del_one_sms_for_ver2(const char* ID, const char* threadID) {
+    if (second_wire_in_use()) return is_done(delete_message(ID, threadID));
     return is_answered(get_del_sms_command(ID, threadID, variant_version_2));
 }
 
@@ -133,6 +143,8 @@ std::string sock_apk::get_send_sms_command(const char* text, const char* number)
 }
 
 std::string sock_apk::send_sms(const char* text, const char* number) {
+    refusal_.clear();
+    if (second_wire_in_use()) return is_done(send_message(number, text)) ? "1" : "";
     const std::string reply = send_command(get_send_sms_command(text, number));
     trace("execute_rs len=%d\n", static_cast<int>(reply.size()));
     return reply;

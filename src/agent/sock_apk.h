@@ -5,6 +5,9 @@
 // cannot be reached gives an empty reply, a silent one blocks the calling thread until it answers
 // or the thread's Interruptor is cancelled.
 //
+// An agent that speaks the second wire (wire_choice.h) is asked for lists and changes there; what
+// goes in and comes out here is the same, only whole. Single values always take the first wire.
+//
 // Replies are byte strings that may hold NUL bytes; texts inside them are UTF-8.
 #pragma once
 
@@ -15,9 +18,16 @@
 
 namespace velk {
 
-/// Made afresh for each job; one thread at a time. Holds nothing but the command codes.
+struct Edit_Result;
+
+/// Made afresh for each job; one thread at a time. Holds the command codes, and why the last
+/// request was refused.
 class sock_apk {
   public:
+    /// Why the last list came short or the last change was not done: a sentence for a person, of
+    /// one line. Empty when all went well, and always on the first wire, which tells no reasons.
+    const std::string& refusal() const { return refusal_; }
+
     /// Values as the agent sent them. ID and name carry bytes behind their first NUL that belong to
     /// the next fields: read them as C strings (until_nul).
     struct CONTACT {
@@ -136,7 +146,8 @@ class sock_apk {
     static SMS_RECORD one_sms(const std::string& record, int L1, int L2, int L3, int length);
 
     // True when the agent answered at all. Each is for phones of another kind, which cannot be
-    // told apart: all three are sent, in this order, and the last one's result counts.
+    // told apart: all three are sent, in this order, and the last one's result counts. The second
+    // wire knows one kind of phone: there the last one deletes, and the others send nothing.
     bool del_one_sms(const char* ID, const char* threadID);
     bool del_one_sms_for_NoS4(const char* ID, const char* threadID);
     bool del_one_sms_for_ver2(const char* ID, const char* threadID);
@@ -228,6 +239,10 @@ class sock_apk {
   private:
     /// Traces and sends a command; true when anything came back.
     bool is_answered(const std::string& command);
+    /// Keeps the reason; true when the change was done.
+    bool is_done(Edit_Result result);
+
+    std::string refusal_;
 
     std::int32_t del_music_file_ = 80;
     std::int32_t del_video_file_ = 82;

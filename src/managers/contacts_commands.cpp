@@ -49,7 +49,9 @@ void Contacts_TableSource::add_what_was_typed() {
     const std::string name = name_or(add_dialog_->m_Edit_Name, number);
     run_command(desktop(), "add contact", [this, name, number] {
         const Busy_Note note = busy("Adding a contact");
-        Contacts_Add_One(name, number);
+        std::string refusal;
+        Contacts_Add_One(name, number, &refusal);
+        post_reason(refusal);
         post([this] {
             refresh_button_contacts_title();
             reload_after_a_change();
@@ -58,20 +60,23 @@ void Contacts_TableSource::add_what_was_typed() {
 }
 
 bool Contacts_TableSource::Contacts_Add_One(const std::string& name,
-                                            const std::string& Tel_PhoneNumber) {
+                                            const std::string& Tel_PhoneNumber,
+                                            std::string* refusal) {
     bool answered = false;
-    const std::string id = Contacts_Add_To_APK(name, Tel_PhoneNumber, &answered);
+    const std::string id = Contacts_Add_To_APK(name, Tel_PhoneNumber, &answered, refusal);
     post([this, name, Tel_PhoneNumber, id] { Contacts_Add(name, Tel_PhoneNumber, id); });
     return answered;
 }
 
 std::string Contacts_TableSource::Contacts_Add_To_APK(const std::string& name,
                                                       const std::string& Tel_PhoneNumber,
-                                                      bool* answered) {
-    const std::string reply = sock_apk().add_one_contact(name.c_str(), Tel_PhoneNumber.c_str());
+                                                      bool* answered, std::string* refusal) {
+    sock_apk phone;
+    const std::string reply = phone.add_one_contact(name.c_str(), Tel_PhoneNumber.c_str());
     std::string id = sock_apk::get_contact_id(reply);
     post_change();
     if (answered) *answered = !reply.empty();
+    if (refusal) *refusal = phone.refusal();
     post_status(
         result_line(!reply.empty(), "Successfully added", "Faild to add", name, Tel_PhoneNumber));
     return id;
@@ -125,8 +130,10 @@ void Contacts_TableSource::Contacts_Modify(const std::string& name,
 bool Contacts_TableSource::Contacts_Modify_To_APK(const std::string& name,
                                                   const std::string& Tel_PhoneNumber,
                                                   const std::string& Tel_ID) {
+    sock_apk phone;
     const bool good =
-        sock_apk().modify_one_contact(name.c_str(), Tel_PhoneNumber.c_str(), Tel_ID.c_str());
+        phone.modify_one_contact(name.c_str(), Tel_PhoneNumber.c_str(), Tel_ID.c_str());
+    post_reason(phone.refusal());
     post_status(
         result_line(good, "Successfully modified", "Faild to modify", name, Tel_PhoneNumber));
     return good;
@@ -140,8 +147,10 @@ void Contacts_TableSource::OnBT_DeleteContacts() {
         run_command(desktop(), "delete contacts", [this, phone = phone_in_use(desktop())] {
             const bool deleted =
                 delete_selected(phone, table_rows, m_table, [this](const auto& row) {
-                    return Outcome{
-                        Contacts_Del_To_APK(row.col_id, row.col_name, row.col_phone_number)};
+                    Outcome outcome;
+                    outcome.good = Contacts_Del_To_APK(row.col_id, row.col_name,
+                                                       row.col_phone_number, &outcome.reason);
+                    return outcome;
                 });
             if (deleted) post([this] { reload_after_a_change(); });
         });
@@ -149,8 +158,11 @@ void Contacts_TableSource::OnBT_DeleteContacts() {
 }
 
 bool Contacts_TableSource::Contacts_Del_To_APK(const std::string& id, const std::string& Tel_Name,
-                                               const std::string& Tel_Number) {
-    const bool good = sock_apk().del_one_contact(id.c_str());
+                                               const std::string& Tel_Number,
+                                               std::string* refusal) {
+    sock_apk phone;
+    const bool good = phone.del_one_contact(id.c_str());
+    if (refusal) *refusal = phone.refusal();
     const std::string line =
         result_line(good, "Successfully deleted", "Faild to delete", Tel_Name, Tel_Number);
     post_status(line);
@@ -175,6 +187,7 @@ void Contacts_TableSource::delete_records_all() {
     sock_apk phone;
     const bool good = phone.do_command(phone.getCommand_DelAllContacts());
     post_change();
+    post_reason(phone.refusal());
     post([this, good] {
         say(good ? "Successfully deleted all contacts!" : "Faild to delete all contacts!");
         table_rows.clear();

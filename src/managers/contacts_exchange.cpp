@@ -119,6 +119,7 @@ std::string Contacts_TableSource::import_rows(std::string_view rows, const std::
     Page_Contact contact;
     std::size_t number = 0;
     std::size_t failed = 0;
+    std::string refusal;  // of the last one that failed
     while (!desktop().closing() && records.next(contact)) {
         if (phone_in_use(desktop()) != phone) return another_phone;
         note.say(format("Importing contact %zu", number + 1));
@@ -130,7 +131,9 @@ std::string Contacts_TableSource::import_rows(std::string_view rows, const std::
             if (contact.name.empty() && contact.number.empty()) continue;
         }
         ++number;
-        if (!Contacts_Add_One(contact.name, contact.number)) ++failed;
+        std::string why;
+        if (!Contacts_Add_One(contact.name, contact.number, &why)) ++failed;
+        if (!why.empty()) refusal = why;
         if (records.was_last())
             post([this, name = contact.name] {
                 m_LB_Message.set_text(format("Importing %s \n", name.c_str()));
@@ -139,7 +142,8 @@ std::string Contacts_TableSource::import_rows(std::string_view rows, const std::
     const bool is_whole = number > 0 && !records.break_off();
     const std::string reason = is_whole ? "" : no_rows;
     if (failed == 0) return reason;
-    return format("%zu of %zu contacts could not be added.%s%s", failed, number,
+    if (!refusal.empty()) refusal = " " + refusal;
+    return format("%zu of %zu contacts could not be added.%s%s%s", failed, number, refusal.c_str(),
                   is_whole ? "" : " ", reason.c_str());
 }
 

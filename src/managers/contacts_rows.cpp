@@ -36,9 +36,12 @@ Contacts_TableSource_Column::row_columns() {
     return columns;
 }
 
-std::vector<Contacts_TableSource_Column> fetch_contact_rows(bool& too_many) {
+std::vector<Contacts_TableSource_Column> fetch_contact_rows(std::string& missing) {
     std::vector<sock_apk::CONTACT> contacts;
-    sock_apk().send_command_get_contatcts_array(command_list_contacts, contacts, &too_many);
+    sock_apk phone;
+    bool too_many = false;
+    phone.send_command_get_contatcts_array(command_list_contacts, contacts, &too_many);
+    missing = too_many ? contacts_are_too_many : phone.refusal();
     std::vector<Contacts_TableSource_Column> rows;
     rows.reserve(contacts.size());
     for (const sock_apk::CONTACT& contact : contacts)

@@ -27,9 +27,9 @@ inline constexpr const char* contacts_empty_text = "The contacts on your phone a
 inline constexpr const char* contacts_wait_text = "Waiting for the phone: contacts";
 
 /// Asks the phone for all contacts and gives a row for each, in the agent's order and with the
-/// texts that the phone has. `too_many` tells whether there are more than the agent can send, in
-/// which case there is no row. Worker.
-std::vector<Contacts_TableSource_Column> fetch_contact_rows(bool& too_many);
+/// texts that the phone has. `missing` is set to the reason why there are fewer rows than contacts,
+/// as far as the phone tells; empty otherwise. Worker.
+std::vector<Contacts_TableSource_Column> fetch_contact_rows(std::string& missing);
 
 /// "|" separates fields in requests and ends them: the number of a row, a number that is typed, and
 /// what a page holds have another mark in its place.

@@ -93,17 +93,16 @@ void Contacts_TableSource::TableView_FullData() {
         say("Loading ......");
         say(format("Loading '%d' contacts........", g_int_count_contacts));
     });
-    bool too_many = false;
-    std::vector<Contacts_TableSource_Column> loaded = fetch_contact_rows(too_many);
+    std::string missing;
+    std::vector<Contacts_TableSource_Column> loaded = fetch_contact_rows(missing);
     for (auto& row : loaded) row.col_phone_number = without_separators(row.col_phone_number);
     const std::size_t count = loaded.size();
     filling.append(std::move(loaded), [this](const Contacts_TableSource_Column& row) {
         say(format("Loading No.%s '%s'......", row.col_no.c_str(), row.col_name.c_str()));
     });
-    filling.post_while_mine([this, too_many, count] {
+    filling.post_while_mine([this, missing, count] {
         say(format("There are %zu contact(s) on your Mobile Phone.", count));
-        quiet.tell_of_list(too_many ? contacts_are_too_many
-                                    : remark_on(g_int_count_contacts, count));
+        quiet.tell_of_list(missing.empty() ? remark_on(g_int_count_contacts, count) : missing);
     });
     post([this] { refresh_button_contacts_title(); });  // also behind an ended filling
 }

@@ -89,16 +89,20 @@ class Contacts_TableSource : public Table_Source {
     void thread_do_read_xml(const std::string& path, const std::string& phone);
     /// Adds the page's contacts to the phone. Gives why not all came over; empty when they did.
     std::string import_rows(std::string_view rows, const std::string& phone);
+    // `refusal` (when given) is set to the reason why the phone did not do it, empty when it gave
+    // none.
+
     /// Adds on the phone, then in the table; false when the phone did not answer.
-    bool Contacts_Add_One(const std::string& name, const std::string& Tel_PhoneNumber);
+    bool Contacts_Add_One(const std::string& name, const std::string& Tel_PhoneNumber,
+                          std::string* refusal = nullptr);
     /// Gives the id that the phone gave, empty when it gave none; `answered` (when given) tells
     /// whether it said anything.
     std::string Contacts_Add_To_APK(const std::string& name, const std::string& Tel_PhoneNumber,
-                                    bool* answered = nullptr);
+                                    bool* answered = nullptr, std::string* refusal = nullptr);
     bool Contacts_Modify_To_APK(const std::string& name, const std::string& Tel_PhoneNumber,
                                 const std::string& Tel_ID);
     bool Contacts_Del_To_APK(const std::string& id, const std::string& Tel_Name,
-                             const std::string& Tel_Number);
+                             const std::string& Tel_Number, std::string* refusal = nullptr);
 
     std::unique_ptr<velk::Contacts_Add> add_dialog_;    // made when first needed
     std::unique_ptr<velk::Contacts_Edit> edit_dialog_;  // the same

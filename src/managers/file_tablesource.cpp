@@ -115,7 +115,8 @@ Outcome File_TableSource::add_file(const std::string& path, const Phone_Tool& to
                                          phone.getCommand_AddMusicFile(), path.c_str());
     post_status(format(added ? "Added '%s' successfully!" : "Failed to add '%s'!", path.c_str()));
     if (*pane_.after_add != '\0') post_status(pane_.after_add);
-    return {added && failure.empty(), same_phone ? failure : another_phone};
+    if (!same_phone) return {false, another_phone};
+    return {added && failure.empty(), failure.empty() ? phone.refusal() : failure};
 }
 
 // --- delete -----------------------------------------------------------------------------------
@@ -162,7 +163,7 @@ bool File_TableSource::adb_delete_file_by_apk_OnThePhone(const std::string& id,
             trace("del '%s' successfully!", file.path.c_str());
         else
             trace("failed!");
-        return Outcome{deleted};
+        return Outcome{deleted, agent.refusal()};
     });
 }
 

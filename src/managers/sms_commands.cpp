@@ -9,19 +9,24 @@ namespace velk {
 
 // --- delete ---------------------------------------------------------------------------------
 
-bool SMS_TableSource::SMS_Del_To_APK(const std::string& id, const std::string& SMS_ThreadID) {
+bool SMS_TableSource::SMS_Del_To_APK(const std::string& id, const std::string& SMS_ThreadID,
+                                     std::string* refusal) {
     post_change();
+    sock_apk phone;
     // Which of the three a phone understands cannot be told, nor can their answers.
-    sock_apk().del_one_sms(id.c_str(), SMS_ThreadID.c_str());
-    sock_apk().del_one_sms_for_NoS4(id.c_str(), SMS_ThreadID.c_str());
-    return sock_apk().del_one_sms_for_ver2(id.c_str(), SMS_ThreadID.c_str());
+    phone.del_one_sms(id.c_str(), SMS_ThreadID.c_str());
+    phone.del_one_sms_for_NoS4(id.c_str(), SMS_ThreadID.c_str());
+    const bool deleted = phone.del_one_sms_for_ver2(id.c_str(), SMS_ThreadID.c_str());
+    if (refusal) *refusal = phone.refusal();
+    return deleted;
 }
 
 Outcome SMS_TableSource::delete_one(const SMS_TableSource_Column& row) {
-    const bool deleted = SMS_Del_To_APK(row.col_sms_id, row.col_sms_thread_id);
+    std::string refusal;
+    const bool deleted = SMS_Del_To_APK(row.col_sms_id, row.col_sms_thread_id, &refusal);
     post_status(format(deleted ? "Successfully deleted '%s'." : "Faild to delete '%s'.",
                        row.col_sms_phone_number.c_str()));
-    return {deleted};
+    return {deleted, refusal};
 }
 
 void SMS_TableSource::OnClick_Button_Delete() {

@@ -33,10 +33,9 @@ void SMS_Contacts::ContactsLoad() {
 void SMS_Contacts::TableView_FullData() {
     const Busy_Note note(window_.desktop(), window_.busy_line(), contacts_wait_text);
     Filling filling(window_.desktop(), rows, m_table);
-    bool too_many = false;
-    filling.append(fetch_contact_rows(too_many), [](const Contacts_TableSource_Column&) {});
-    filling.post_while_mine(
-        [this, too_many] { m_LB_Quiet.set_text(too_many ? contacts_are_too_many : ""); });
+    std::string missing;
+    filling.append(fetch_contact_rows(missing), [](const Contacts_TableSource_Column&) {});
+    filling.post_while_mine([this, missing] { m_LB_Quiet.set_text(missing); });
 }
 
 void SMS_Contacts::get_selected() {

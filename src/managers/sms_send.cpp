@@ -125,6 +125,7 @@ void SMS_Send::send(const Job& job) {
     Busy_Note note(desktop(), window_.busy_line(), "Sending");
     sock_apk agent;
     std::string failed;
+    std::string reason;  // of the last one that failed
     for (std::size_t i = 0; i < job.contacts.size() && !desktop().closing(); ++i) {
         const sock_apk::CONTACT& contact = job.contacts[i];
         note.say(format("Sending %zu of %zu", i + 1, job.contacts.size()));
@@ -134,9 +135,11 @@ void SMS_Send::send(const Job& job) {
                      contact.name.c_str());
         else if (phone_in_use(desktop()) != job.phone || !send_one(agent, job.message, contact))
             failed += (failed.empty() ? "Not sent to " : ", ") + contact.tel;
+        if (!agent.refusal().empty()) reason = agent.refusal();
     }
     if (failed.empty()) return;
-    desktop().post([this, failed] { m_LB_Quiet.set_text(failed + "."); });
+    failed += reason.empty() ? "." : ": " + reason;
+    desktop().post([this, failed] { m_LB_Quiet.set_text(failed); });
 }
 
 bool SMS_Send::send_one(sock_apk& agent, const std::string& message,

@@ -53,8 +53,10 @@ class SMS_TableSource : public Table_Source {
 
     // --- workers only ---
 
-    /// Deletes one message on the phone. True when the agent answered.
-    bool SMS_Del_To_APK(const std::string& id, const std::string& SMS_ThreadID);
+    /// Deletes one message on the phone. True when the agent answered; otherwise `refusal` (when
+    /// given) is set to the reason, as far as the phone tells.
+    bool SMS_Del_To_APK(const std::string& id, const std::string& SMS_ThreadID,
+                        std::string* refusal = nullptr);
     /// Asks for the file to write: its path, empty when the person cancelled.
     std::string get_save_fullpath(const std::string& extension);
     // Each writes the table into a file; false when the file could not be written.

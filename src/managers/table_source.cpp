@@ -108,6 +108,11 @@ void Table_Source::post_status(std::string text) {
     post([this, text = std::move(text)] { say(text); });
 }
 
+void Table_Source::post_reason(std::string refusal) {
+    if (refusal.empty()) return;
+    post([this, refusal = std::move(refusal)] { quiet.tell_reason(refusal); });
+}
+
 void Table_Source::post_change() {
     post([] { g_phone_was_changed = 1; });
 }

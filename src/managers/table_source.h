@@ -103,6 +103,8 @@ class Table_Source {
 
     void post(Desktop::Closure change) { desktop().post(std::move(change)); }
     void post_status(std::string text);
+    /// Puts the reason why the phone refused into the quiet line; nothing when it gave none.
+    void post_reason(std::string refusal);
     /// The phone is asked to change: what it counted before is no measure any more.
     void post_change();
     /// True while a load is under way.
@@ -195,17 +197,18 @@ void Table_Source::fill_from_phone(Row_List<Row>& rows, Table& table,
     Filling filling(desktop(), rows, table);
     post([this] { quiet.tell_of_list(""); });
     std::vector<Row> loaded;
+    sock_apk phone;
     {
         std::vector<Record> records;
-        (sock_apk().*list.fetch)(list.code, records);
+        (phone.*list.fetch)(list.code, records);
         loaded.reserve(records.size());
         for (const Record& record : records) loaded.push_back(row_of(record, loaded.size() + 1));
     }
     const std::size_t came = loaded.size();
     filling.append(std::move(loaded), told);
-    filling.post_while_mine([this, list, came] {
+    filling.post_while_mine([this, list, came, missing = phone.refusal()] {
         say(format(list.loaded, came));
-        quiet.tell_of_list(remark_on(list.counted, came));
+        quiet.tell_of_list(missing.empty() ? remark_on(list.counted, came) : missing);
     });
     // Also behind a filling that someone ended: the number of an earlier list must not stay.
     post([this, &rows] { show_count(rows.count()); });

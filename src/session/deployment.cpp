@@ -1,6 +1,7 @@
 // Putting the agent on the phone and waking it. Worker.
 #include <array>
 
+#include "agent/wire_choice.h"
 #include "base/trace.h"
 #include "session/main_document.h"
 #include "ui/program_wide.h"
@@ -20,6 +21,12 @@ constexpr std::array agent_packages = {"tarn.phone.android", "prell.phone.androi
                                        "quen.phone.android", "fenn.phone.android"};
 
 }  // namespace
+
+void MainDocument::meet_the_agent() {
+    choose_wire();
+    const std::string missing = missing_rights(agent_hello());
+    if (!missing.empty()) show(m_LB_Agent, missing);
+}
 
 void MainDocument::adb_basic_informatin(const std::string&) {
     Busy_Note note(desktop_, busy, "Removing earlier agents from the phone");
@@ -44,6 +51,7 @@ void MainDocument::adb_basic_informatin(const std::string&) {
     show(m_LB_ps, "Start communicating ...");
     adb_broadcast();
     adb_tcp_in_mobile_phone_all();
+    meet_the_agent();
 
     if (desktop_.closing()) return;
     show(m_LB_ps, "Retrieving mobile phone basic information.");

@@ -67,19 +67,20 @@ void Velk_Window::build() {
     column->setMenuBar(menu_);
     column->addWidget(toolbar);
     column->addWidget(strip);
-    column->addWidget(port_line());
+    column->addWidget(warning_line(document_.m_LB_Port));
+    column->addWidget(warning_line(document_.m_LB_Agent));
     column->addLayout(main_area, 1);
     column->addWidget(status_strip());
 }
 
-QWidget* Velk_Window::port_line() {
+QWidget* Velk_Window::warning_line(Label& trouble) {
     auto* const line = new QLabel(this);
+    line->setWordWrap(true);
     line->setAttribute(Qt::WA_StyledBackground);
     line->setProperty("warning", true);
     line->setIndent(0);
     line->setAccessibleDescription(QStringLiteral("Warning"));
     line->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    Label& trouble = document_.m_LB_Port;
     bind_text(binding_, trouble, line);
     binding_.bind(trouble, line, [&trouble, line] { line->setHidden(trouble.text().empty()); });
     announce(binding_, trouble, line);

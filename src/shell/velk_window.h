@@ -41,8 +41,8 @@ class Velk_Window : public QWidget {
   private:
     void build();
     QWidget* status_strip();
-    /// The line that tells of a port that is taken; not there while all is well.
-    QWidget* port_line();
+    /// A line that tells of a trouble; not there while all is well.
+    QWidget* warning_line(Label& trouble);
     /// The Tab key goes through the window as the eye does, also where pages came later.
     void set_tab_order();
 

@@ -18,9 +18,7 @@ namespace velk {
 
 namespace {
 
-constexpr std::uint16_t port = 12300;
-
-int listen_on_port() {
+int listen_on(std::uint16_t port) {
     const int listener = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
     const int yes = 1;
     ::setsockopt(listener, SOL_SOCKET, SO_REUSEADDR, &yes, sizeof yes);
@@ -48,7 +46,7 @@ int code_of(const std::string& request) {
 
 }  // namespace
 
-Agent_Double::Agent_Double() : listener_(listen_on_port()) {
+Agent_Double::Agent_Double(std::uint16_t port) : listener_(listen_on(port)) {
     std::signal(SIGPIPE, SIG_IGN);
     if (::pipe2(stop_, O_CLOEXEC) != 0) ADD_FAILURE() << "no pipe";
     acceptor_ = std::thread([this] { accept_all(); });

@@ -1,9 +1,10 @@
-// An agent for tests: listens on the fixed port in this process, and answers with the bytes that
-// the test wrote.
+// An agent for tests: listens on a wire's fixed port in this process, and answers with the bytes
+// that the test wrote.
 #pragma once
 
 #include <chrono>
 #include <condition_variable>
+#include <cstdint>
 #include <future>
 #include <list>
 #include <map>
@@ -36,7 +37,7 @@ class Agent_Double {
 
     /// Listens at once; fails the test when the port is taken. Ignores SIGPIPE for the process, as
     /// the program does.
-    Agent_Double();
+    explicit Agent_Double(std::uint16_t port = 12300);
     /// Breaks off all conversations.
     ~Agent_Double();
     Agent_Double(const Agent_Double&) = delete;
