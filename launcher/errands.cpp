@@ -1,7 +1,5 @@
 #include "launcher/errands.h"
 
-#include <unistd.h>
-
 #include <array>
 #include <chrono>
 #include <cstdio>
@@ -11,7 +9,9 @@
 
 #include "base/text.h"
 #include "bridge/child_process.h"
+#include "launcher/agent_errands.h"
 #include "launcher/habits.h"
+#include "launcher/run_tool.h"
 
 namespace velk {
 
@@ -21,45 +21,6 @@ using Words = std::vector<std::string>;
 
 constexpr std::chrono::milliseconds time_for_a_new_phone{3000};
 constexpr std::chrono::milliseconds pause_between_looks{250};
-
-void print(std::FILE* stream, std::string_view text) {
-    std::fwrite(text.data(), 1, text.size(), stream);
-}
-
-Words with_tool(const std::string& tool, Words words) {
-    words.insert(words.begin(), tool);
-    return words;
-}
-
-/// Runs the tool and keeps quiet about it; `said` is all that it wrote.
-int ask_tool(const std::string& tool, const Words& words, std::string& said) {
-    return run_child({.words = with_tool(tool, words), .captures_errors = true},
-                     [&](std::string_view piece) { said += piece; });
-}
-
-/// What is captured goes to standard error as it comes; `said` gets it, too.
-int run_and_listen(Child_Command command, std::string& said) {
-    command.shares_input = true;
-    command.captures_errors = true;
-    return run_child(command, [&](std::string_view piece) {
-        print(stderr, piece);
-        said += piece;
-    });
-}
-
-/// When the tool fails, what it said goes to standard output too: the program reads nothing else.
-/// It reads only UTF-8, and a message names files.
-int repeat_a_failure(int status, const std::string& said) {
-    if (status != 0) print(stdout, as_utf8(said));
-    return status;
-}
-
-int run_plainly(const std::string& tool, const Command_Line& call) {
-    std::string said;
-    const int status =
-        run_and_listen({.words = with_tool(tool, call.words()), .captures_output = false}, said);
-    return repeat_a_failure(status, said);
-}
 
 int ask_for_devices(const std::string& tool, const Command_Line& call, std::string& said) {
     said.clear();
@@ -89,12 +50,6 @@ int run_devices(const std::string& tool, const Command_Line& call) {
     print(stderr, complaints);
     print(stdout, version_complaint(complaints) + older_device_list(said.substr(list)));
     return status;
-}
-
-/// Only a line that begins so is the tool speaking; elsewhere stand names of files.
-bool has_line_that_begins(const std::string& said, const std::string& beginning) {
-    return said.starts_with(beginning) || said.find("\n" + beginning) != std::string::npos ||
-           said.find("\r" + beginning) != std::string::npos;
 }
 
 /// A pull, of which all output is kept: only a failure may be heard on standard output.
@@ -141,24 +96,15 @@ int run_uninstall(const std::string& tool, const Command_Line& call) {
     return run_plainly(tool, call);
 }
 
-[[noreturn]] void become_the_tool(const std::string& tool, const Command_Line& call) {
-    Words words = with_tool(tool, call.words());
-    std::vector<char*> arguments;
-    for (std::string& word : words) arguments.push_back(word.data());
-    arguments.push_back(nullptr);
-    ::execv(tool.c_str(), arguments.data());
-    std::perror(tool.c_str());
-    std::exit(status_of_a_missing_program);
-}
-
 struct Errand {
     std::string_view command;
     int (*run)(const std::string& tool, const Command_Line& call);
 };
 
 constexpr std::array errands{
-    Errand{"devices", run_devices},     Errand{"pull", run_pull},       Errand{"push", run_push},
-    Errand{"uninstall", run_uninstall}, Errand{"install", run_plainly},
+    Errand{"devices", run_devices}, Errand{"pull", run_pull},
+    Errand{"push", run_push},       Errand{"uninstall", run_uninstall},
+    Errand{"install", run_install}, Errand{"forward", run_forward},
 };
 
 }  // namespace

@@ -60,6 +60,13 @@ bool debugging_is_on_the_bus(const std::string& folder) {
     return false;
 }
 
+bool has_line_that_begins(std::string_view text, std::string_view beginning) {
+    for (std::size_t found = text.find(beginning); found != std::string_view::npos;
+         found = text.find(beginning, found + 1))
+        if (found == 0 || text[found - 1] == '\n' || text[found - 1] == '\r') return true;
+    return false;
+}
+
 bool means_a_folder(std::string_view phone_path) {
     const std::size_t last = phone_path.find_last_not_of('/');
     if (last == std::string_view::npos) return false;  // the root is there

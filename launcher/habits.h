@@ -27,6 +27,10 @@ bool may_not_have_met_the_phone(std::string_view list);
 /// tells.
 bool debugging_is_on_the_bus(const std::string& folder = "/sys/bus/usb/devices");
 
+/// True when a line of the text begins so. Only there the tool is speaking; elsewhere stand names
+/// of files.
+bool has_line_that_begins(std::string_view text, std::string_view beginning);
+
 /// True when a path on the phone is meant as a folder: its last component has no extension.
 bool means_a_folder(std::string_view phone_path);
 
