@@ -1,5 +1,6 @@
 #include "demo_phone/phone_behaviour.h"
 
+#include <algorithm>
 #include <charconv>
 #include <optional>
 
@@ -15,6 +16,9 @@ struct Reply_Word {
     Reply reply;
     bool takes_bytes;
 };
+
+/// What a maker's setting says that keeps the computer from installing.
+constexpr std::string_view usual_refusal = "INSTALL_FAILED_USER_RESTRICTED";
 
 constexpr Reply_Word reply_words[] = {
     {"silent", Reply::silent, false},   {"close-early", Reply::close_early, false},
@@ -53,6 +57,17 @@ bool play_reply(Phone_Behaviour& behaviour, std::string_view word) {
     return false;
 }
 
+bool may_stand_in_a_reason(char character) {
+    return character == '_' || (character >= 'A' && character <= 'Z') ||
+           (character >= '0' && character <= '9');
+}
+
+bool play_refusal(Phone_Behaviour& behaviour, std::string_view word) {
+    if (cut_at(word, ':') != "refuse-install") return false;
+    behaviour.refused_install = word.empty() ? usual_refusal : word;
+    return std::all_of(word.begin(), word.end(), may_stand_in_a_reason);
+}
+
 bool play_word(Phone_Behaviour& behaviour, std::string_view word) {
     if (word == "normal")
         behaviour = {};
@@ -60,12 +75,12 @@ bool play_word(Phone_Behaviour& behaviour, std::string_view word) {
         behaviour.handshake = Handshake::unauthorized;
     else if (word == "offline")
         behaviour.handshake = Handshake::offline;
-    else if (word == "refuse-install")
-        behaviour.refuse_install = true;
+    else if (word == "no-grants")
+        behaviour.no_grants = true;
     else if (word == "storage-full")
         behaviour.storage_full = true;
     else
-        return play_reply(behaviour, word);
+        return play_refusal(behaviour, word) || play_reply(behaviour, word);
     return true;
 }
 
@@ -79,6 +94,11 @@ std::string describe_reply(const Phone_Behaviour& behaviour) {
         return text + ",";
     }
     return "";
+}
+
+std::string describe_refusal(const std::string& reason) {
+    if (reason.empty()) return "";
+    return "refuse-install" + (reason == usual_refusal ? "" : ":" + reason) + ",";
 }
 
 }  // namespace
@@ -97,7 +117,8 @@ std::string describe_behaviour(const Phone_Behaviour& behaviour) {
     if (behaviour.handshake == Handshake::unauthorized) text += "unauthorized,";
     if (behaviour.handshake == Handshake::offline) text += "offline,";
     text += describe_reply(behaviour);
-    if (behaviour.refuse_install) text += "refuse-install,";
+    text += describe_refusal(behaviour.refused_install);
+    if (behaviour.no_grants) text += "no-grants,";
     if (behaviour.storage_full) text += "storage-full,";
     if (text.empty()) return "normal";
     text.pop_back();
@@ -114,7 +135,10 @@ std::string_view play_help() {
            "  split:N[:MS]    every reply goes out in pieces of N bytes, MS (2) milliseconds "
            "apart\n"
            "  damaged         some bytes of every reply are wrong\n"
-           "  refuse-install  no package can be installed\n"
+           "  refuse-install[:REASON]\n"
+           "                  no package can be installed, for this reason "
+           "(INSTALL_FAILED_USER_RESTRICTED)\n"
+           "  no-grants       installing cannot grant permissions, as before Android 6\n"
            "  storage-full    no file can be written and no package installed\n";
 }
 

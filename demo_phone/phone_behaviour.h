@@ -16,7 +16,8 @@ struct Phone_Behaviour {
     Reply reply = Reply::normal;
     std::size_t reply_bytes = 0;         // of a cut reply, or of each piece of a split one
     std::chrono::milliseconds pause{2};  // between the pieces of a split reply
-    bool refuse_install = false;
+    std::string refused_install;  // the reason for which no package can be installed; empty: none
+    bool no_grants = false;
     bool storage_full = false;
 };
 

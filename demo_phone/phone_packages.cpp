@@ -40,16 +40,26 @@ std::string package_name(const std::string& file_name) {
     return package.find('.') == std::string::npos ? "demo.installed." + package : package;
 }
 
-/// A streamed package comes without a file name; our own stand-in bears its name in its first line.
+/// A streamed package comes without a file name. The stand-in has the agent's name in its first
+/// line, the agent's real package has an entry that no other package has.
 bool names_agent(const Demo_Phone& phone, const std::string& path) {
     const auto real = phone.storage.real_path(path);
     if (!real) return false;
     std::ifstream file(*real, std::ios::binary);
     std::string line;
-    return std::getline(file, line) && line == g_agent_package;
+    if (!std::getline(file, line)) return false;
+    if (line == g_agent_package) return true;
+    if (!line.starts_with("PK")) return false;
+    constexpr std::string_view entry = "assets/velk.phone.android.agent";
+    do {
+        if (line.find(entry) != std::string::npos) return true;
+    } while (std::getline(file, line));
+    return false;
 }
 
 Shell_Result pm_install(Demo_Phone& phone, const Words& words) {
+    if (phone.behaviour.no_grants && std::find(words.begin(), words.end(), "-g") != words.end())
+        return {"Error: Unknown option: -g\n", 1};
     const std::string& path = words.back();
     const std::string line = install_package(phone, path, base_name(path));
     return {line, line == success ? 0 : 1};
@@ -98,7 +108,7 @@ Shell_Result am_broadcast(Demo_Phone& phone, const Words& words) {
 
 std::string install_package(Demo_Phone& phone, const std::string& path, std::string_view name) {
     const Phone_File file = phone.storage.facts(path);
-    if (phone.behaviour.refuse_install) return failure("INSTALL_FAILED_USER_RESTRICTED");
+    if (const std::string& why = phone.behaviour.refused_install; !why.empty()) return failure(why);
     if (phone.behaviour.storage_full) return failure("INSTALL_FAILED_INSUFFICIENT_STORAGE");
     if (!file.is_file()) return failure("INSTALL_FAILED_INVALID_URI");
     if (file.size == 0) return failure("INSTALL_PARSE_FAILED_NOT_APK");
@@ -114,7 +124,7 @@ std::string install_package(Demo_Phone& phone, const std::string& path, std::str
 Shell_Result run_pm(Demo_Phone& phone, const Words& words) {
     if (words.size() > 2 && words[1] == "install") return pm_install(phone, words);
     if (words.size() > 2 && words[1] == "uninstall") return pm_uninstall(phone, words);
-    return {"usage: pm install [-r] FILE | pm uninstall PACKAGE\n", 1};
+    return {"usage: pm install [-r] [-g] FILE | pm uninstall PACKAGE\n", 1};
 }
 
 Shell_Result run_am(Demo_Phone& phone, const Words& words) {

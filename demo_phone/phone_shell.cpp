@@ -86,14 +86,52 @@ Shell_Result getprop(Demo_Phone& phone, const Words& words) {
     return {words.size() > 1 ? "\n" : text, 0};
 }
 
+/// The abstract sockets on which the phone listens, as the system's list has them.
+std::string local_sockets(const Demo_Phone& phone) {
+    std::string list = "Num       RefCount Protocol Flags    Type St Inode Path\n";
+    if (!phone.agent.listening()) return list;
+    for (const char* const name : {"velk.phone.android.wire1", "velk.phone.android.wire2"})
+        list.append("0000000000000000: 00000002 00000000 00010000 0001 01 20304 @")
+            .append(name)
+            .append("\n");
+    return list;
+}
+
+Shell_Result cat(Demo_Phone& phone, const Words& words) {
+    Shell_Result result;
+    for (const std::string& path : operands(words)) {
+        if (path == "/proc/net/unix")
+            result.output += local_sockets(phone);
+        else
+            result = {result.output + "cat: " + path + ": No such file or directory\n", 1};
+    }
+    return result;
+}
+
+/// "appops set package operation mode". The agent here may do everything; who asked for what is
+/// in the log.
+Shell_Result appops(Demo_Phone& phone, const Words& words) {
+    if (words.size() != 5 || words[1] != "set") return {"usage: appops set PACKAGE OP MODE\n", 1};
+    phone.log.line("appops", words[2] + " " + words[3] + " " + words[4]);
+    return {};
+}
+
+/// "dumpsys deviceidle whitelist +package"
+Shell_Result dumpsys(Demo_Phone&, const Words& words) {
+    if (words.size() < 2 || words[1] != "deviceidle")
+        return {"Can't find service: " + (words.size() < 2 ? "" : words[1]) + "\n", 1};
+    if (words.size() != 4 || words[2] != "whitelist" || !words[3].starts_with('+')) return {};
+    return {"Added: " + words[3].substr(1) + "\n", 0};
+}
+
 struct Command {
     std::string_view name;
     Shell_Result (*run)(Demo_Phone&, const Words&);
 };
 
 constexpr Command commands[] = {
-    {"pm", run_pm}, {"am", run_am}, {"mkdir", mkdir},     {"rm", rm},
-    {"ls", ls},     {"echo", echo}, {"getprop", getprop},
+    {"pm", run_pm}, {"am", run_am}, {"mkdir", mkdir},     {"rm", rm},         {"ls", ls},
+    {"cat", cat},   {"echo", echo}, {"getprop", getprop}, {"appops", appops}, {"dumpsys", dumpsys},
 };
 
 }  // namespace
