@@ -15,7 +15,6 @@ namespace velk {
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
 using Words = std::vector<std::string>;
 
 constexpr std::chrono::milliseconds time_for_our_agent_to_start{3000};
@@ -41,6 +40,7 @@ Phone_Socket ask_for_socket(const std::string& tool, const Command_Line& call,
 /// Whether the agent on the phone is to be reached through this socket. Our own one may still be
 /// starting. Some phones show nobody the list; then the package says what was installed.
 bool agent_has_socket(const std::string& tool, const Command_Line& call, std::string_view socket) {
+    using Clock = std::chrono::steady_clock;
     const bool ours = is_own_agent(package_beside_the_launcher());
     const auto latest = Clock::now() + time_for_our_agent_to_start;
     Phone_Socket found = ask_for_socket(tool, call, socket);

@@ -13,10 +13,10 @@
 namespace velk {
 namespace {
 
-const std::string ours = "PK\x03\x04.........assets/velk.phone.android.agent....";
-const std::string foreign = "PK\x03\x04.........assets/velk.phone.android.mp3....";
-const std::string header = "Num       RefCount Protocol Flags    Type St Inode Path\n";
-const std::string line = "0000000000000000: 00000002 00000000 00010000 0001 01 17 ";
+const std::string our_package = "PK\x03\x04.........assets/velk.phone.android.agent....";
+const std::string foreign_package = "PK\x03\x04.........assets/velk.phone.android.mp3....";
+const std::string socket_header = "Num       RefCount Protocol Flags    Type St Inode Path\n";
+const std::string socket_line = "0000000000000000: 00000002 00000000 00010000 0001 01 17 ";
 const std::string wire1 = "velk.phone.android.wire1", wire2 = "velk.phone.android.wire2";
 const std::string question = "-d shell cat /proc/net/unix";
 
@@ -36,19 +36,21 @@ struct Beside {
 };
 
 TEST(Agent_Errands, forward_to_the_socket_of_an_agent_that_has_one) {
-    const std::string sockets = header + line + "@" + wire1 + "\r\n" + line + "@" + wire2;
-    const std::string others = header + line + "@" + wire1 + "2\n" + line + "/" + wire1 + "\n";
+    const std::string sockets =
+        socket_header + socket_line + "@" + wire1 + "\r\n" + socket_line + "@" + wire2;
+    const std::string others =
+        socket_header + socket_line + "@" + wire1 + "2\n" + socket_line + "/" + wire1 + "\n";
     const std::string refused = "cat: /proc/net/unix: Permission denied\n";
     const struct {
         std::string package, list, asked;
         Words calls;
     } cases[] = {
-        {ours, sockets, "tcp:12186", {question, "-d forward tcp:1 localabstract:" + wire1}},
+        {our_package, sockets, "tcp:12186", {question, "-d forward tcp:1 localabstract:" + wire1}},
         {"stand-in", sockets, "tcp:12176", {question, "-d forward tcp:1 localabstract:" + wire2}},
-        {foreign, others, "tcp:12186", {question, "-d forward tcp:1 tcp:12186"}},
-        {foreign, refused, "tcp:12186", {question, "-d forward tcp:1 tcp:12186"}},
-        {ours, refused, "tcp:12186", {question, "-d forward tcp:1 localabstract:" + wire1}},
-        {ours, sockets, "tcp:12166", {"-d forward tcp:1 tcp:12166"}},
+        {foreign_package, others, "tcp:12186", {question, "-d forward tcp:1 tcp:12186"}},
+        {foreign_package, refused, "tcp:12186", {question, "-d forward tcp:1 tcp:12186"}},
+        {our_package, refused, "tcp:12186", {question, "-d forward tcp:1 localabstract:" + wire1}},
+        {our_package, sockets, "tcp:12166", {"-d forward tcp:1 tcp:12166"}},
     };
     for (const auto& [package, list, asked, calls] : cases) {
         const Beside beside(package);
@@ -62,12 +64,12 @@ TEST(Agent_Errands, forward_to_the_socket_of_an_agent_that_has_one) {
 }
 
 TEST(Agent_Errands, forward_waits_for_our_own_agent_to_start) {
-    const Beside beside(ours);
-    beside.adb.answer("shell cat", header.c_str());
+    const Beside beside(our_package);
+    beside.adb.answer("shell cat", socket_header.c_str());
     std::atomic<bool> ended = false;
     std::thread phone([&] {
         while (beside.adb.calls().size() < 2 && !ended) std::this_thread::yield();
-        beside.adb.answer("shell cat", (header + line + "@" + wire2 + "\n").c_str());
+        beside.adb.answer("shell cat", (socket_header + socket_line + "@" + wire2 + "\n").c_str());
     });
     beside.call({"forward", "tcp:1", "tcp:12176"});
     ended = true;
@@ -84,11 +86,11 @@ TEST(Agent_Errands, install_grants_what_the_phone_lets_the_computer_grant) {
         Launched expected;
         bool plainly, granted;
     } cases[] = {
-        {ours, {good}, {}, {good, "", 0}, false, true},
-        {ours, {bad, "", 1}, {}, {bad, bad, 1}, false, false},
-        {ours, {unknown}, {good}, {good, "", 0}, true, true},
-        {ours, {"", denied, 1}, {bad}, {bad, "", 0}, true, false},
-        {foreign, {}, {good}, {good, "", 0}, true, false},
+        {our_package, {good}, {}, {good, "", 0}, false, true},
+        {our_package, {bad, "", 1}, {}, {bad, bad, 1}, false, false},
+        {our_package, {unknown}, {good}, {good, "", 0}, true, true},
+        {our_package, {"", denied, 1}, {bad}, {bad, "", 0}, true, false},
+        {foreign_package, {}, {good}, {good, "", 0}, true, false},
     };
     for (const auto& [bytes, granting, plain, expected, plainly, granted] : cases) {
         const Beside beside(bytes);
@@ -96,7 +98,7 @@ TEST(Agent_Errands, install_grants_what_the_phone_lets_the_computer_grant) {
         beside.adb.answer("install -r", plain);
         beside.adb.answer("shell", {"noise\n", "noise\n", 1});
         Words calls;
-        if (bytes == ours) calls.push_back("-d install -r -g " + beside.package);
+        if (bytes == our_package) calls.push_back("-d install -r -g " + beside.package);
         if (plainly) calls.push_back("-d install -r " + beside.package);
         if (granted)
             for (const char* const grant :
