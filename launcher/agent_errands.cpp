@@ -30,6 +30,12 @@ std::string package_beside_the_launcher() {
     return (own.parent_path() / "velk.phone.android.PhoneConnActivity.apk").string();
 }
 
+/// Any other package, whatever it holds, gets no permission unasked.
+bool is_beside_the_launcher(const std::string& package) {
+    std::error_code error;
+    return std::filesystem::equivalent(package, package_beside_the_launcher(), error) && !error;
+}
+
 Phone_Socket ask_for_socket(const std::string& tool, const Command_Line& call,
                             std::string_view socket) {
     std::string list;
@@ -98,7 +104,8 @@ int run_forward(const std::string& tool, const Command_Line& call) {
 
 int run_install(const std::string& tool, const Command_Line& call) {
     const bool replaces = call.arguments.size() == 2 && call.arguments[0] == "-r";
-    if (replaces && is_own_agent(call.arguments[1])) return install_our_agent(tool, call);
+    if (replaces && is_beside_the_launcher(call.arguments[1]) && is_own_agent(call.arguments[1]))
+        return install_our_agent(tool, call);
     return run_plainly(tool, call);
 }
 

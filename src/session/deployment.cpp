@@ -3,6 +3,7 @@
 
 #include "agent/wire_choice.h"
 #include "base/trace.h"
+#include "bridge/install_result.h"
 #include "session/main_document.h"
 #include "ui/program_wide.h"
 
@@ -22,12 +23,6 @@ constexpr std::array agent_packages = {"tarn.phone.android", "prell.phone.androi
 
 }  // namespace
 
-void MainDocument::meet_the_agent() {
-    choose_wire();
-    const std::string missing = missing_rights(agent_hello());
-    if (!missing.empty()) show(m_LB_Agent, missing);
-}
-
 void MainDocument::adb_basic_informatin(const std::string&) {
     Busy_Note note(desktop_, busy, "Removing earlier agents from the phone");
     const std::string directory = get_current_app_path();
@@ -38,10 +33,12 @@ void MainDocument::adb_basic_informatin(const std::string&) {
         }
 
     note.say("Installing the agent on the phone");
+    std::string trouble;
     if (!g_b_debug_del_apk_installapk) {
         const auto file = desktop_.ask([this] { return m_str_install_apk_file; });
         const std::string result = adb_install_apk(directory + "/" + file);
         log_line("%s", result.c_str());
+        trouble = why_install_failed(result);
     }
     show(m_LB_ps, "Launching the application on your phone...");
 
@@ -51,7 +48,9 @@ void MainDocument::adb_basic_informatin(const std::string&) {
     show(m_LB_ps, "Start communicating ...");
     adb_broadcast();
     adb_tcp_in_mobile_phone_all();
-    meet_the_agent();
+    choose_wire();
+    if (trouble.empty()) trouble = missing_rights(agent_hello());
+    if (!trouble.empty()) show(m_LB_Agent, trouble);
 
     if (desktop_.closing()) return;
     show(m_LB_ps, "Retrieving mobile phone basic information.");

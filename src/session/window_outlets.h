@@ -27,7 +27,7 @@ struct Window_Outlets {
     Label m_LB_ps{"m_LB_ps"};        // the status line
     Busy_Line busy;                  // what is waited for, beside the status line
     Label m_LB_Port{"m_LB_Port"};    // what keeps every connection from working; empty, mostly
-    Label m_LB_Agent{"m_LB_Agent"};  // what the phone does not let the agent do; empty, mostly
+    Label m_LB_Agent{"m_LB_Agent"};  // why the agent cannot do everything; empty, mostly
     Label m_LB_Connected{"m_LB_Connected"};
     Label m_LB_USBConnect{"m_LB_USBConnect"};
     Label m_LB_SerialNumber{"m_LB_SerialNumber"};
