@@ -84,6 +84,9 @@ class MainDocument : public Main_Window, public Window_Outlets, public Adb_Wrapp
     /// chooses. Both texts are names with versions.
     void save_report(const std::string& toolkit, const std::string& system);
 
+    /// File: asks, and takes the agent off the phone in use.
+    void OnMenu_RemoveAgent();
+
     // --- navigation -------------------------------------------------------------------------
 
     /// Shows a view in the content box; nullptr hides the box. Any thread.
@@ -148,6 +151,7 @@ class MainDocument : public Main_Window, public Window_Outlets, public Adb_Wrapp
     void device_is_not_usable();
     void device_is_usable(const std::string& serial);
     void adb_basic_informatin(const std::string& serial);
+    void remove_agent();
 
     // The device summary. The order of the requests is fixed.
     void get_mobile_basic_information(Busy_Note& note);

@@ -40,6 +40,14 @@ void MainMenu_Main::build() {
     add_files = add_item(file, "add_files", "Add File(s)...", "Ctrl+O");
     add_folder = add_item(file, "add_folder", "Add Folder...", "Ctrl+Shift+O");
     file->addSeparator();
+    remove_agent = add_item(file, "remove_agent", "Remove Velk From the Phone...", "Ctrl+Shift+U");
+    parts_.guards.connect_action(
+        remove_agent,
+        [&document = parts_.document] {
+            return g_connected_adb && g_can_click_refresh && document.desktop().takes_input();
+        },
+        [&document = parts_.document] { document.OnMenu_RemoveAgent(); });
+    file->addSeparator();
     close_window = add_item(file, "close_window", "Close Window", "Ctrl+W");
     build_view_menu();
     section_menu_ = add_menu("&Section");

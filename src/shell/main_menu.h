@@ -40,6 +40,7 @@ class MainMenu_Main : public QMenuBar {
     QAction* product_window = nullptr;  // ticked while the window is there to be seen
     QAction* help = nullptr;
     QAction* support = nullptr;
+    QAction* remove_agent = nullptr;
     QAction* save_report = nullptr;
     QMenu* help_menu = nullptr;
 
