@@ -1,4 +1,4 @@
-// One connection of the computer to the agent: collects a request, answers it, plays the bad agent.
+// One connection of the first wire: collects a request and answers it.
 #pragma once
 
 #include <string>
@@ -17,7 +17,6 @@ class Agent_Link : public Phone_Service {
 
   private:
     void answer(Phone_Outlet& outlet);
-    void send_reply(Agent_Answer answer, Phone_Outlet& outlet);
 
     Demo_Phone& phone_;
     std::string request_;

@@ -36,13 +36,13 @@ void append_record(std::string& out, const Phone_Message& message) {
     append_text(out, message.text);
     append_text(out, message.date);
     append_big(out, static_cast<unsigned>(message.type), 2);
-    append_big(out, static_cast<unsigned>(message.id));
-    append_big(out, static_cast<unsigned>(message.thread));
+    append_big(out, static_cast<std::uint32_t>(message.id));
+    append_big(out, static_cast<std::uint32_t>(message.thread));
     append_big(out, message.read ? 1 : 0, 2);
 }
 
 void append_record(std::string& out, const Phone_Media& media) {
-    const auto id = static_cast<unsigned>(media.id);
+    const auto id = static_cast<std::uint32_t>(media.id);
     const auto duration = static_cast<unsigned>(media.duration);
     switch (media.kind) {
         case Media_Kind::music:
@@ -104,9 +104,9 @@ std::string battery_reply(int level) {
     return framed(Agent_Code::battery, std::string(1, static_cast<char>(level)));
 }
 
-std::string contact_id_reply(int id) {
+std::string contact_id_reply(std::int64_t id) {
     std::string record;
-    append_number(record, static_cast<unsigned>(id));
+    append_number(record, static_cast<std::uint32_t>(id));
     return framed(Agent_Code::add_contact, record);
 }
 
@@ -114,10 +114,10 @@ std::string done_reply(Agent_Code code) {
     return framed(code, std::string(1, '\1'));
 }
 
-std::string contact_list(const std::vector<Phone_Contact>& contacts) {
+std::string contact_list(const Phone_Store::Contacts& contacts) {
     std::string records;
     for (const Phone_Contact& contact : contacts) {
-        append_number(records, static_cast<unsigned>(contact.id));
+        append_number(records, static_cast<std::uint32_t>(contact.id));
         append_text(records, contact.name);
         append_text(records, contact.tel);
     }
@@ -143,7 +143,7 @@ std::string media_list(Media_Kind kind, const std::vector<Phone_Media>& media) {
     return framed(list_code(kind), records);
 }
 
-std::string message_list(const std::deque<Phone_Message>& messages, std::size_t per_packet) {
+std::string message_list(const Phone_Store::Messages& messages, std::size_t per_packet) {
     std::string out;
     std::string records;
     std::size_t count = 0;

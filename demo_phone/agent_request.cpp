@@ -107,20 +107,19 @@ std::optional<Contact_Fields> read_modify_contact(std::string_view request) {
         if (byte_at(payload, name + 4) != tel % seven_bits) continue;
         if (payload.substr(name + 5, 3) != zeros(3)) continue;
         return Contact_Fields{std::string(payload.substr(0, name)),
-                              std::string(payload.substr(name + 8)),
-                              static_cast<int>(little_at(payload, name))};
+                              std::string(payload.substr(name + 8)), little_at(payload, name)};
     }
     return std::nullopt;
 }
 
-std::optional<int> read_delete_contact(std::string_view request) {
+std::optional<std::uint32_t> read_delete_contact(std::string_view request) {
     const auto payload = marked_payload(request);
     if (!payload) return std::nullopt;
-    int id = 0;
+    std::int64_t id = 0;  // may be written with a sign or without
     const auto [end, error] =
         std::from_chars(payload->data(), payload->data() + payload->size(), id);
     if (error != std::errc() || end != payload->data() + payload->size()) return std::nullopt;
-    return id;
+    return static_cast<std::uint32_t>(id);
 }
 
 std::optional<Message_Key> read_delete_message(std::string_view request) {

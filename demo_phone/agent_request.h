@@ -1,6 +1,7 @@
 // Requests to the agent: one byte, or a code, a length and a payload.
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -63,11 +64,11 @@ Request_State state_of_request(std::string_view bytes);
 struct Contact_Fields {
     std::string name;
     std::string tel;
-    int id = 0;
+    std::uint32_t id = 0;  // the low bits of the contact's own
 };
 std::optional<Contact_Fields> read_add_contact(std::string_view request);
 std::optional<Contact_Fields> read_modify_contact(std::string_view request);
-std::optional<int> read_delete_contact(std::string_view request);
+std::optional<std::uint32_t> read_delete_contact(std::string_view request);
 
 struct Message_Key {
     int id_low_byte = 0;

@@ -16,7 +16,8 @@ struct Demo_Amounts {
     std::size_t videos = 8;
     std::size_t books = 12;
     std::size_t apps = 30;
-    bool long_names = false;  // contacts of about 130 bytes each
+    bool long_names = false;    // contacts of about 130 bytes each
+    bool odd_contacts = false;  // some more contacts, whose names and numbers are hard to carry
 };
 
 /// Contacts, and messages exchanged with them.

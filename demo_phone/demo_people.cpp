@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <ctime>
+#include <iterator>
 #include <string>
 
 #include "demo_phone/demo_data.h"
@@ -108,6 +109,30 @@ void fill_messages(Phone_Store& store, std::size_t count) {
     }
 }
 
+/// What separates or ends something in one of the wires, in files and in scripts of writing.
+void add_odd_contacts(Phone_Store& store) {
+    using namespace std::string_literals;
+    const std::string names[] = {"star*name",
+                                 "pipe|name",
+                                 "star*pipe|*|name|",
+                                 "];",
+                                 "','",
+                                 "\"double\" and 'single'",
+                                 "back\\slash\\n",
+                                 "two\nlines\r\nand a\ttab",
+                                 "{\"end\":1}",
+                                 "מִי־זֶה 123 من",
+                                 "\u202Eright to left\u202C",
+                                 "👩‍🚀 😀 e\u0301",
+                                 "line\u2028separator",
+                                 " blanks ",
+                                 "nul\0byte"s};
+    for (std::size_t i = 0; i < std::size(names); ++i)
+        store.add_contact(names[i], "+99900" + std::to_string(100 + i));
+    store.add_contact("number with separators", "+38*10|#;,");
+    store.add_contact("", "+99900200");
+}
+
 }  // namespace
 
 void fill_people(Phone_Store& store, const Demo_Amounts& amounts) {
@@ -115,6 +140,7 @@ void fill_people(Phone_Store& store, const Demo_Amounts& amounts) {
         const std::string name = contact_name(i);
         store.add_contact(amounts.long_names ? lengthened(name, i) : name, contact_number(i));
     }
+    if (amounts.odd_contacts) add_odd_contacts(store);
     fill_messages(store, amounts.messages);
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 
 #include "demo_phone/adb_message.h"
@@ -19,6 +20,10 @@ struct Phone_Settings {
     std::size_t largest_packet = g_adb_largest_data;  // bytes of data in one message
     bool later_services = false;  // offers shell_v2, cmd and stat_v2, as later phones do
     std::size_t messages_per_packet = 20;
+    bool first_wire = true;  // whether the agent speaks it
+    bool second_wire = true;
+    bool refuse_writes = false;  // the agent may change nothing
+    std::int64_t first_id = 0;   // is added to every id that the phone gives
 };
 
 struct Demo_Phone {
@@ -26,7 +31,7 @@ struct Demo_Phone {
     Phone_Storage& storage;
     Phone_Log& log;
     Phone_Behaviour behaviour{};
-    Phone_Store store{};
+    Phone_Store store{{settings.first_id, settings.first_wire}};
     Agent_Life agent{};
     int battery = 76;  // per cent
 };

@@ -1,33 +1,22 @@
 #include "demo_phone/phone_agent.h"
 
 #include <algorithm>
-#include <ctime>
 
 #include "demo_phone/agent_reply.h"
 #include "demo_phone/bytes.h"
 #include "demo_phone/demo_phone.h"
 #include "demo_phone/media_scan.h"
+#include "demo_phone/phone_edits.h"
 
 namespace velk {
 
 namespace {
 
-constexpr std::string_view android_version = "4.4.2";
-constexpr std::string_view agent_version = "1.0.3";
 // Sizes below 2 GB: the computer reads them as signed 32-bit numbers.
 constexpr std::uint64_t phone_size = 2013265920;
 constexpr std::uint64_t phone_free = 734003200;
 constexpr std::uint64_t storage_size = 2040109465;
 constexpr std::uint64_t storage_used_by_others = 612368384;
-
-std::string today() {
-    const std::time_t now = std::time(nullptr);
-    std::tm parts{};
-    localtime_r(&now, &parts);
-    char text[32];
-    std::strftime(text, sizeof text, "%Y-%m-%d %H:%M:%S", &parts);
-    return text;
-}
 
 std::uint64_t storage_free(const Demo_Phone& phone) {
     const std::uint64_t used = storage_used_by_others + phone.storage.used_bytes();
@@ -47,7 +36,7 @@ std::string value_of(const Demo_Phone& phone, Agent_Code code) {
         case Agent_Code::storage_free:
             return std::to_string(storage_free(phone));
         case Agent_Code::android_version:
-            return std::string(android_version);
+            return std::string(g_android_version);
         case Agent_Code::model:
             return phone.settings.model;
         case Agent_Code::count_contacts:
@@ -65,7 +54,7 @@ std::string value_of(const Demo_Phone& phone, Agent_Code code) {
         case Agent_Code::count_books:
             return std::to_string(store.count(Media_Kind::book));
         case Agent_Code::agent_version:
-            return std::string(agent_version);
+            return std::string(g_agent_version);
         case Agent_Code::goodbye:
             return "1";
         default:
@@ -105,33 +94,29 @@ std::string add_contact(Demo_Phone& phone, std::string_view request) {
 
 bool modify_contact(Demo_Phone& phone, std::string_view request) {
     const auto contact = read_modify_contact(request);
-    return contact && phone.store.modify_contact(contact->id, contact->name, contact->tel);
+    return contact && phone.store.modify_contact(phone.store.whole_id(contact->id), contact->name,
+                                                 contact->tel);
 }
 
 bool delete_contact(Demo_Phone& phone, std::string_view request) {
     const auto id = read_delete_contact(request);
-    return id && phone.store.delete_contact(*id);
+    return id && phone.store.delete_contact(phone.store.whole_id(*id));
 }
 
 bool delete_message(Demo_Phone& phone, std::string_view request) {
     const auto key = read_delete_message(request);
     // Every delete comes in three forms for three kinds of phones: the second and third find the
     // message gone, which is what they ask for.
-    if (key) phone.store.delete_message(key->id_low_byte, key->thread_low_byte);
-    return key.has_value();
+    return key && phone.store.delete_message_by_bytes(key->id_low_byte, key->thread_low_byte) <= 1;
 }
 
 bool send_message(Demo_Phone& phone, std::string_view request) {
     const auto fields = read_send_message(request);
-    if (!fields || fields->tel.empty() || fields->text.size() > g_longest_message) return false;
-    constexpr int sent = 2;
-    return phone.store.add_message({0, 0, fields->tel, fields->text, today(), sent, true});
+    return fields && velk::send_message(phone.store, fields->tel, fields->text);
 }
 
 bool delete_file(Demo_Phone& phone, Media_Kind kind, const std::optional<std::string>& path) {
-    if (!path || !phone.store.delete_media(kind, *path)) return false;
-    phone.storage.remove(*path);
-    return true;
+    return path && velk::delete_file(phone.store, phone.storage, kind, *path);
 }
 
 /// Carries out an edit that is answered with a bare "done"; false when nothing was changed.
@@ -205,6 +190,7 @@ Agent_Answer answer_request(Demo_Phone& phone, std::string_view request) {
     // their end and close by themselves.
     if (std::string list = list_of(phone, code); !list.empty())
         return {std::move(list), code == Agent_Code::list_contacts};
+    if (phone.settings.refuse_writes) return {};
     if (code == Agent_Code::add_contact) return {add_contact(phone, request)};
     return {edit(phone, code, request) ? done_reply(code) : ""};
 }

@@ -10,6 +10,9 @@ namespace velk {
 
 namespace {
 
+constexpr std::size_t most_of_a_kind = 200000;
+constexpr std::size_t most_on_first_wire = 60000;  // its ids have 16 bits
+
 struct Option {
     std::string_view name;
     std::string_view value;  // what its value is called in the help; empty when it takes none
@@ -32,8 +35,13 @@ bool set_port(int& port, std::string_view text) {
 }
 
 bool set_amount(std::size_t& amount, std::string_view text) {
-    constexpr std::size_t most = 60000;  // ids of the agent have 16 bits
-    return set_number<std::size_t>(amount, text, 0, most);
+    return set_number<std::size_t>(amount, text, 0, most_of_a_kind);
+}
+
+bool set_wires(Phone_Settings& settings, std::string_view word) {
+    settings.first_wire = word != "second";
+    settings.second_wire = word != "first";
+    return word == "both" || word == "first" || word == "second";
 }
 
 using Options = Phone_Options;
@@ -81,6 +89,16 @@ constexpr Option option_table[] = {
          return set_number<std::size_t>(o.settings.messages_per_packet, v, 1,
                                         std::numeric_limits<int>::max());
      }},
+    {"--odd-contacts", "", "contacts whose names have separators, quotes, line breaks and the like",
+     [](Options& o, Value) { return o.amounts.odd_contacts = true; }},
+    {"--wires", "WHICH", "what the agent speaks: both, or only the first or the second wire",
+     [](Options& o, Value v) { return set_wires(o.settings, v); }},
+    {"--first-id", "N", "number added to every id on the phone: 0 to 2^62",
+     [](Options& o, Value v) {
+         return set_number<std::int64_t>(o.settings.first_id, v, 0, std::int64_t{1} << 62);
+     }},
+    {"--refuse-writes", "", "the agent may change nothing, and says so on the second wire",
+     [](Options& o, Value) { return o.settings.refuse_writes = true; }},
     {"--help", "", "print this and end", [](Options& o, Value) { return o.help = true; }},
     {"--version", "", "print the version and end",
      [](Options& o, Value) { return o.version = true; }},
@@ -96,6 +114,15 @@ bool complain(std::string_view what, std::string_view word) {
     std::fprintf(stderr, "demo_phone: %.*s: %.*s (see --help)\n", static_cast<int>(word.size()),
                  word.data(), static_cast<int>(what.size()), what.data());
     return false;
+}
+
+bool amounts_fit(const Phone_Options& options) {
+    const Demo_Amounts& amounts = options.amounts;
+    const std::size_t most =
+        std::max({amounts.contacts, amounts.messages, amounts.music, amounts.photos, amounts.videos,
+                  amounts.books, amounts.apps});
+    return !options.settings.first_wire || most <= most_on_first_wire ||
+           complain("more than 60000 of a kind need --wires second", std::to_string(most));
 }
 
 /// "--tell PATH COMMAND..." takes all words that follow.
@@ -129,6 +156,7 @@ std::optional<Phone_Options> read_options(int count, char** words) {
         if (!option->set(options, value))
             return complain("value not understood", word), std::nullopt;
     }
+    if (!amounts_fit(options)) return std::nullopt;
     return options;
 }
 

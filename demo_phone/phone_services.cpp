@@ -1,7 +1,9 @@
 #include "demo_phone/phone_services.h"
 
+#include <algorithm>
 #include <charconv>
 #include <fstream>
+#include <iterator>
 #include <string>
 #include <vector>
 
@@ -9,6 +11,7 @@
 #include "demo_phone/bytes.h"
 #include "demo_phone/phone_packages.h"
 #include "demo_phone/phone_shell.h"
+#include "demo_phone/second_wire_link.h"
 #include "demo_phone/sync_service.h"
 
 namespace velk {
@@ -93,6 +96,19 @@ std::optional<Number> number(std::string_view text) {
     return value;
 }
 
+/// The agent, by one of the services that lead to it.
+std::unique_ptr<Phone_Service> open_wire(Demo_Phone& phone, std::string_view name) {
+    const auto leads_to = [name](const auto& services) {
+        return std::find(std::begin(services), std::end(services), name) != std::end(services);
+    };
+    if (!phone.agent.listening()) return nullptr;
+    if (phone.settings.first_wire && leads_to(g_first_wire_services))
+        return std::make_unique<Agent_Link>(phone);
+    if (phone.settings.second_wire && leads_to(g_second_wire_services))
+        return std::make_unique<Second_Wire_Link>(phone);
+    return nullptr;
+}
+
 /// The size of a package that "cmd package install ... -S size" will stream in.
 std::optional<std::uint64_t> streamed_size(std::string_view line) {
     const std::vector<std::string> words = shell_words(line);
@@ -116,10 +132,7 @@ std::unique_ptr<Phone_Service> open_phone_service(Demo_Phone& phone, std::string
             return std::make_unique<Install_Service>(phone, *size);
         return std::make_unique<Shell_Service>(phone, *line, false);
     }
-    if (const auto port = behind(name, "tcp:"))
-        if (number<int>(*port) == g_agent_port && phone.agent.listening())
-            return std::make_unique<Agent_Link>(phone);
-    return nullptr;
+    return open_wire(phone, name);
 }
 
 }  // namespace velk

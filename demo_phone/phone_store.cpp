@@ -7,15 +7,19 @@ namespace velk {
 
 namespace {
 
-std::size_t low_byte(int number) {
+std::size_t low_byte(std::int64_t number) {
     return static_cast<std::size_t>(number) & 0xFF;
+}
+
+int last_number(const Phone_Numbering& numbering) {
+    return numbering.for_first_wire ? 65535 : 1000000;
 }
 
 }  // namespace
 
 std::optional<int> Number_Pool::take(const std::function<bool(int)>& pleases) {
-    for (int i = 0; i < last_number; ++i) {
-        const int number = (latest_ + i) % last_number + 1;
+    for (int i = 0; i < last_number_; ++i) {
+        const int number = (latest_ + i) % last_number_ + 1;
         if (taken_[static_cast<std::size_t>(number)] || (pleases && !pleases(number))) continue;
         taken_[static_cast<std::size_t>(number)] = true;
         return latest_ = number;
@@ -23,55 +27,70 @@ std::optional<int> Number_Pool::take(const std::function<bool(int)>& pleases) {
     return std::nullopt;
 }
 
-std::optional<int> Phone_Store::add_contact(const std::string& name, const std::string& tel) {
-    const auto id = contact_ids_.take();
-    if (id) contacts_.push_back({*id, name, tel});
+Phone_Store::Phone_Store(Phone_Numbering numbering)
+    : numbering_(numbering),
+      contact_ids_(last_number(numbering)),
+      message_ids_(last_number(numbering)),
+      media_ids_(last_number(numbering)) {}
+
+std::int64_t Phone_Store::whole_id(std::uint32_t low_bits) const {
+    // All ids are close above the first one, so the distance to it fits into 32 bits.
+    const auto first = static_cast<std::uint32_t>(numbering_.first_id);
+    return numbering_.first_id + static_cast<std::uint32_t>(low_bits - first);
+}
+
+std::optional<std::int64_t> Phone_Store::add_contact(const std::string& name,
+                                                     const std::string& tel) {
+    const auto number = contact_ids_.take();
+    if (!number) return std::nullopt;
+    const std::int64_t id = numbering_.first_id + *number;
+    contacts_.add({id, name, tel});
     return id;
 }
 
-bool Phone_Store::modify_contact(int id, const std::string& name, const std::string& tel) {
-    for (Phone_Contact& contact : contacts_) {
-        if (contact.id != id) continue;
-        contact.name = name;
-        contact.tel = tel;
-        return true;
-    }
-    return false;
+bool Phone_Store::modify_contact(std::int64_t id, const std::string& name, const std::string& tel) {
+    Phone_Contact* contact = contacts_.find(id);
+    if (!contact) return false;
+    contact->name = name;
+    contact->tel = tel;
+    return true;
 }
 
-bool Phone_Store::delete_contact(int id) {
-    const auto gone =
-        std::erase_if(contacts_, [id](const Phone_Contact& contact) { return contact.id == id; });
-    if (gone) contact_ids_.give_back(id);
-    return gone != 0;
+bool Phone_Store::delete_contact(std::int64_t id) {
+    if (!contacts_.erase(id)) return false;
+    contact_ids_.give_back(number_of(id));
+    return true;
 }
 
 void Phone_Store::delete_all_contacts() {
-    for (const Phone_Contact& contact : contacts_) contact_ids_.give_back(contact.id);
+    for (const Phone_Contact& contact : contacts_) contact_ids_.give_back(number_of(contact.id));
     contacts_.clear();
 }
 
-int Phone_Store::thread_of(const std::string& tel) {
-    const int next = static_cast<int>(threads_.size()) % Number_Pool::last_number + 1;
+std::int64_t Phone_Store::thread_of(const std::string& tel) {
+    const auto known = static_cast<std::int64_t>(threads_.size());
+    const std::int64_t next = numbering_.first_id + known % last_number(numbering_) + 1;
     return threads_.emplace(tel, next).first->second;
 }
 
-std::vector<bool>::reference Phone_Store::pair(int id, int thread) {
+std::vector<bool>::reference Phone_Store::pair(std::int64_t id, std::int64_t thread) {
     return taken_pairs_[low_byte(id) * 256 + low_byte(thread)];
 }
 
 bool Phone_Store::add_message(Phone_Message message) {
     message.thread = thread_of(message.tel);
-    if (full(message.thread)) return false;
-    const auto id = message_ids_.take([&](int number) { return !pair(number, message.thread); });
-    if (!id) return false;
-    message.id = *id;
+    if (numbering_.for_first_wire && full(message.thread)) return false;
+    const auto number = message_ids_.take([&](int candidate) {
+        return !numbering_.for_first_wire || !pair(numbering_.first_id + candidate, message.thread);
+    });
+    if (!number) return false;
+    message.id = numbering_.first_id + *number;
     pair(message.id, message.thread) = true;
-    messages_.push_front(std::move(message));
+    messages_.add(std::move(message));
     return true;
 }
 
-bool Phone_Store::full(int thread) {
+bool Phone_Store::full(std::int64_t thread) {
     for (int id = 0; id < 256; ++id)
         if (!pair(id, thread)) return false;
     return true;
@@ -79,18 +98,28 @@ bool Phone_Store::full(int thread) {
 
 void Phone_Store::forget(const Phone_Message& message) {
     pair(message.id, message.thread) = false;
-    message_ids_.give_back(message.id);
+    message_ids_.give_back(number_of(message.id));
 }
 
-bool Phone_Store::delete_message(int id_low_byte, int thread_low_byte) {
-    const auto found = std::find_if(messages_.begin(), messages_.end(), [&](const auto& message) {
-        return low_byte(message.id) == low_byte(id_low_byte) &&
-               low_byte(message.thread) == low_byte(thread_low_byte);
-    });
-    if (found == messages_.end()) return false;
-    forget(*found);
-    messages_.erase(found);
-    return true;
+bool Phone_Store::delete_message(std::int64_t id) {
+    const Phone_Message* message = messages_.find(id);
+    if (!message) return false;
+    forget(*message);
+    return messages_.erase(id);
+}
+
+std::size_t Phone_Store::delete_message_by_bytes(int id_low_byte, int thread_low_byte) {
+    std::size_t fitting = 0;
+    std::int64_t found = 0;
+    for (const Phone_Message& message : messages_) {
+        if (low_byte(message.id) != low_byte(id_low_byte) ||
+            low_byte(message.thread) != low_byte(thread_low_byte))
+            continue;
+        ++fitting;
+        found = message.id;
+    }
+    if (fitting == 1) delete_message(found);
+    return fitting;
 }
 
 void Phone_Store::delete_all_messages() {
@@ -105,6 +134,12 @@ std::vector<Phone_Media> Phone_Store::media(Media_Kind kind) const {
     return found;
 }
 
+const Phone_Media* Phone_Store::next_media(Media_Kind kind, std::string_view path) const {
+    for (auto entry = media_.upper_bound(path); entry != media_.end(); ++entry)
+        if (entry->second.kind == kind) return &entry->second;
+    return nullptr;
+}
+
 std::size_t Phone_Store::count(Media_Kind kind) const {
     return static_cast<std::size_t>(
         std::count_if(media_.begin(), media_.end(),
@@ -112,10 +147,13 @@ std::size_t Phone_Store::count(Media_Kind kind) const {
 }
 
 bool Phone_Store::add_media(Phone_Media media) {
-    const auto known = media_.find(media.path);
-    const std::optional<int> id = known != media_.end() ? known->second.id : media_ids_.take();
-    if (!id) return false;
-    media.id = *id;
+    if (const Phone_Media* known = find_media(media.path)) {
+        media.id = known->id;
+    } else {
+        const auto number = media_ids_.take();
+        if (!number) return false;
+        media.id = numbering_.first_id + *number;
+    }
     std::string path = media.path;
     media_.insert_or_assign(std::move(path), std::move(media));
     return true;
@@ -129,7 +167,7 @@ const Phone_Media* Phone_Store::find_media(std::string_view path) const {
 bool Phone_Store::delete_media(Media_Kind kind, std::string_view path) {
     const auto found = media_.find(path);
     if (found == media_.end() || found->second.kind != kind) return false;
-    media_ids_.give_back(found->second.id);
+    media_ids_.give_back(number_of(found->second.id));
     media_.erase(found);
     return true;
 }
