@@ -3,6 +3,7 @@
 #include "demo_phone/agent_link.h"
 #include "demo_phone/demo_data.h"
 #include "demo_phone/demo_phone.h"
+#include "demo_phone/kept_outlet.h"
 
 namespace velk {
 namespace {
@@ -29,19 +30,6 @@ TEST(Agent_Replies, messages_come_in_packets_that_their_length_fits) {
     while (at < reply.size()) at += 6U + byte(at + 4) * 256U + byte(at + 5);
     EXPECT_EQ(at, reply.size());
 }
-
-/// What a service sends: the sizes of the pieces, and whether it ends.
-struct Kept_Outlet : Phone_Outlet {
-    std::string all;
-    std::vector<std::size_t> pieces;
-    bool finished = false;
-
-    void send(std::string bytes, std::chrono::milliseconds) override {
-        all += bytes;
-        pieces.push_back(bytes.size());
-    }
-    void finish() override { finished = true; }
-};
 
 TEST(Agent_Replies, the_bad_agent_answers_as_it_is_told) {
     const struct {
