@@ -90,10 +90,16 @@ Shell_Result getprop(Demo_Phone& phone, const Words& words) {
 std::string local_sockets(const Demo_Phone& phone) {
     std::string list = "Num       RefCount Protocol Flags    Type St Inode Path\n";
     if (!phone.agent.listening()) return list;
-    for (const char* const name : {"velk.phone.android.wire1", "velk.phone.android.wire2"})
-        list.append("0000000000000000: 00000002 00000000 00010000 0001 01 20304 @")
-            .append(name)
-            .append("\n");
+    constexpr std::string_view abstract = "localabstract:";
+    const auto add = [&](const auto& services) {
+        for (const std::string_view service : services)
+            if (service.starts_with(abstract))
+                list.append("0000000000000000: 00000002 00000000 00010000 0001 01 20304 @")
+                    .append(service.substr(abstract.size()))
+                    .append("\n");
+    };
+    if (phone.settings.first_wire) add(g_first_wire_services);
+    if (phone.settings.second_wire) add(g_second_wire_services);
     return list;
 }
 

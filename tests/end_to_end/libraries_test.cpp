@@ -10,8 +10,12 @@ namespace {
 
 using Libraries = On_The_Demo_Phone;
 
-TEST_F(Libraries, are_there_after_a_connection_and_change_as_the_person_says) {
-    connect({"--packet", "4096"});
+class Libraries_On : public Libraries, public testing::WithParamInterface<std::string> {};
+INSTANTIATE_TEST_SUITE_P(Wires, Libraries_On, testing::Values<std::string>("first", "second"),
+                         [](const auto& wire) { return wire.param; });
+
+TEST_P(Libraries_On, are_there_after_a_connection_and_change_as_the_person_says) {
+    connect({"--packet", "4096", "--wires", GetParam()});
     for (int id = DEFINE_VIEW_Music; id <= DEFINE_VIEW_Book; ++id)
         EXPECT_GT(document.m_views[static_cast<std::size_t>(id)]->section()->table->rows().count(),
                   0);
@@ -21,7 +25,8 @@ TEST_F(Libraries, are_there_after_a_connection_and_change_as_the_person_says) {
     for (const auto& row : photos.table_rows) before.insert(row.photo_file_path);
 
     const std::string blocks(200000, 'p');  // more than one goes over at once
-    const std::string names[] = {"it's \xE2\x98\xBA & [1]=\xFF.jpg", "-d.jpg",
+    const std::string no_text = GetParam() == "first" ? "\xFF" : "";
+    const std::string names[] = {"it's \xE2\x98\xBA & [1]=" + no_text + ".jpg", "-d.jpg",
                                  ".hidden \"one\".jpg", std::string(251, 'n') + ".jpg"};
     std::filesystem::create_directories(file("a folder;*/deeper"));
     std::ofstream(file("a folder;*/deeper/in it.jpg")) << "deep";
