@@ -16,10 +16,11 @@ fail() { echo "check_package: $1" >&2 && exit 1; }
 build_package() {
     rm -f build/release/velk_*.deb
     cmake --preset release --log-level=WARNING
-    cmake --build --preset release --target velk velk_adb velk_icons demo_phone
+    cmake --build --preset release --target velk velk_adb velk_icons demo_phone agent
     cpack --preset release
     package=$(echo build/release/velk_*_"$(dpkg --print-architecture)".deb)
     [ -f "$package" ] || fail 'no package was made'
+    android/check.sh build/release/bin/velk.phone.android.PhoneConnActivity.apk
 }
 
 # The version stands in three files; a release that forgets one is noticed here.

@@ -4,6 +4,7 @@
 # system it says what is needed and how it is called there.
 #
 #   scripts/install_dependencies.sh            for ./run and ./test
+#   scripts/install_dependencies.sh --agent    also what the agent for a real phone is built with
 #   scripts/install_dependencies.sh --package  also what scripts/check_package.sh uses
 #   scripts/install_dependencies.sh --all      also what ./test --all and CI use
 set -euo pipefail
@@ -22,7 +23,12 @@ packages=(
     # Names on a phone come in every script; a bare system cannot draw any.
     fonts-dejavu-core fonts-noto-core fonts-wqy-microhei fonts-noto-color-emoji
 )
+for_agent=(
+    default-jdk-headless maven zip unzip # compile it, and fetch what Debian lacks
+    aapt zipalign apksigner dexdump      # make its package, sign it, look into it
+)
 for_package=(
+    "${for_agent[@]}"
     dpkg-dev file librsvg2-bin gzip             # make the package
     lintian desktop-file-utils appstream man-db # judge it
     debootstrap udev systemd                    # try it; systemd, or udev itself, acts on its rule
@@ -34,6 +40,7 @@ for_all=(
 )
 case "${1:-}" in
     '') ;;
+    --agent) packages+=("${for_agent[@]}") ;;
     --package) packages+=("${for_package[@]}") ;;
     --all) packages+=("${for_package[@]}" "${for_all[@]}") ;;
     *) sed -n '2,/^set/{s/^# \{0,1\}//p}' "$0" >&2 && exit 2 ;;

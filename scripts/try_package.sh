@@ -15,7 +15,6 @@ if [ "${1:-}" = --unpacked ]; then kind=unpacked && shift; fi
 [ $# -eq 2 ] || { sed -n '2,/^set/{s/^# \{0,1\}//p}' "$0" >&2 && exit 2; }
 scripts=$(cd "$(dirname "$0")" && pwd)
 package=$(realpath "$1") build=$(realpath "$2")
-agent_package=velk.phone.android.PhoneConnActivity.apk
 ordinary_user=1000
 
 folder=$(mktemp -d)
@@ -88,8 +87,6 @@ prepare_visit() {
     cp "$build/bin/demo_phone" "$root/$stay/bin"
     ln -s ../../../usr/lib/velk/adb "$root/$stay/bin/adb"
     cp "$scripts"/{with_demo_phone,agent_port_is_free}.sh "$root/$stay/scripts"
-    # The package has none; a person puts it there as root, too.
-    cp "$build/bin/$agent_package" "$root/usr/lib/velk"
 }
 
 # visit COMMAND...: runs it beside the demo phone. The folders are named as the command sees them.
@@ -115,7 +112,6 @@ tour() {
     grep -Eq '^Contacts: [1-9]' "$folder/tour" || fail 'the tour found no contacts'
     rm -rf "$build/package-tour"
     cp -r "$root/$stay/out" "$build/package-tour"
-    rm "$root/usr/lib/velk/$agent_package"
 }
 
 if [ "$kind" = clean ]; then

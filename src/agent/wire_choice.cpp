@@ -73,9 +73,8 @@ std::string missing_rights(const Agent_Hello& hello) {
         if (why.empty()) why = kind.why_not;
     }
     if (kinds.empty()) return {};
-    return "Velk may not do everything with " + kinds + ": " +
-           (why.empty() ? "the phone does not allow it." : why) +
-           " Open Velk on the phone, allow what is missing there, and press Refresh.";
+    if (why.empty()) why = "Open Velk on the phone and allow there what is missing.";
+    return "Velk may not do everything with " + kinds + ": " + why + " Then press Refresh.";
 }
 
 }  // namespace velk

@@ -25,8 +25,8 @@ constexpr std::string_view refused_by_a_check =
     "The phone's owner or a store's check refused the agent: switch off \"Verify apps over USB\" "
     "in the phone's developer options, or accept it on the phone, then connect again.";
 constexpr std::string_view damaged =
-    "The agent's package is damaged or was not built: build it or install Velk again, then "
-    "connect again.";
+    "The agent for real phones is not built, or its package is damaged: build it with \"cmake --build "
+    "--preset release --target agent\", or install Velk again, then connect again.";
 
 /// The first that stands in what was printed counts: the same failure may come with words of a more
 /// general one.

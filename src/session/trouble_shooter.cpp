@@ -25,8 +25,9 @@ std::string of_computer(const Trouble_Facts& facts) {
     if (facts.adb_answer && attached_position(*facts.adb_answer) == std::string::npos)
         return "There is no answer from adb. If it is not installed: sudo apt install adb";
     if (!facts.agent_package_is_there)
-        return "The agent's package is missing: put " + facts.agent_package + " into " +
-               facts.directory + ".";
+        return "The agent's package is missing: build it with \"cmake --build --preset release "
+               "--target agent\", or put " +
+               facts.agent_package + " into " + facts.directory + ".";
     return {};
 }
 

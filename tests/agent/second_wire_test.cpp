@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <random>
 
 #include "agent/sock_apk.h"
 #include "agent/wire_choice.h"
@@ -113,6 +114,24 @@ TEST_F(Second_Wire, SaysWhyAListCameShort) {
     for (const auto& each : cases) {
         EXPECT_EQ(contacts_of(each.reply).size(), each.came) << each.reason;
         EXPECT_THAT(phone.refusal(), StartsWith(each.reason));
+    }
+}
+
+TEST_F(Second_Wire, TakesNoDamagedListForAWholeOne) {
+    ASSERT_TRUE(choose_after(hello));
+    std::string list;
+    for (int i = 0; i < 20; ++i)
+        list += "{\"id\":\"" + std::to_string(i) + "\",\"name\":\"n\\u05d0\",\"number\":\"1\"}\n";
+    list += "{\"end\":20}\n";
+    std::mt19937 random(7);
+    for (int round = 0; round < 1000; ++round) {
+        std::string damaged = list;
+        for (int i = round % 4; i >= 0; --i)
+            damaged[random() % damaged.size()] = static_cast<char>(random());
+        if (round % 5 == 0) damaged.resize(random() % damaged.size());
+        if (round % 7 == 0) damaged.erase(random() % damaged.size(), random() % 90);
+        const std::size_t came = contacts_of(damaged).size();
+        if (phone.refusal().empty()) EXPECT_EQ(came, 20U) << damaged;
     }
 }
 
