@@ -86,11 +86,10 @@ TEST_F(Second_Wire, CarriesIdsTextsAndSizesWhole) {
     agent.reply_once_to(json,
                         "{\"id\":\"70000\",\"path\":\"/a\",\"size\":5368709121,"
                         "\"duration\":3723000}\n{\"end\":1}\n");
-    std::vector<sock_apk::VIDEO_RECORD> videos;
-    phone.send_command_get_video("117", videos);
-    ASSERT_EQ(videos.size(), 1U);
-    EXPECT_EQ(videos[0].id + " " + videos[0].size + " " + videos[0].timer,
-              "70000 5.00 GB 01:02:03");
+    std::vector<sock_apk::VIDEO_RECORD> found;
+    phone.send_command_get_video("117", found);
+    ASSERT_EQ(found.size(), 1U);
+    EXPECT_EQ(found[0].id + " " + found[0].size + " " + found[0].timer, "70000 5.00 GB 01:02:03");
 }
 
 TEST_F(Second_Wire, SaysWhyAListCameShort) {
@@ -131,7 +130,7 @@ TEST_F(Second_Wire, TakesNoDamagedListForAWholeOne) {
         if (round % 5 == 0) damaged.resize(random() % damaged.size());
         if (round % 7 == 0) damaged.erase(random() % damaged.size(), random() % 90);
         const std::size_t came = contacts_of(damaged).size();
-        if (phone.refusal().empty()) EXPECT_EQ(came, 20U) << damaged;
+        EXPECT_TRUE(came == 20 || !phone.refusal().empty()) << damaged;
     }
 }
 
