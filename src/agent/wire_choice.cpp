@@ -74,7 +74,7 @@ std::string missing_rights(const Agent_Hello& hello) {
     }
     if (kinds.empty()) return {};
     if (why.empty()) why = "Open Velk on the phone and allow there what is missing.";
-    return "Velk may not do everything with " + kinds + ": " + why + " Then press Refresh.";
+    return "Velk may not do everything with " + kinds + ": " + why;
 }
 
 }  // namespace velk
