@@ -23,7 +23,8 @@ struct Agent_Hello {
 /// on; otherwise on the first. Worker.
 void choose_wire();
 
-/// Until the next choice, as before the first one. Any thread.
+/// As before the first choice. For tests and measurements: the program changes the wire of a phone
+/// in use by a new choice alone. Any thread.
 void use_first_wire();
 
 /// Any thread.

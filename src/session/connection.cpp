@@ -1,6 +1,5 @@
 // One attempt to reach a phone, from the screen's reset to the summary.
 #include "agent/channel.h"
-#include "agent/wire_choice.h"
 #include "base/text.h"
 #include "base/trace.h"
 #include "bridge/device_list.h"
@@ -26,7 +25,6 @@ void MainDocument::refresh_ini_ui() {
     g_run_threading = 1;
     g_connected_adb = 0;
     m_LB_Agent.set_text("");
-    use_first_wire();
     m_LB_ps.set_text(g_StartDetectDevices);
 }
 
