@@ -40,10 +40,18 @@ fetch_tools() {
     tools_are_whole || fail "what Maven delivered to $tools is not what was expected"
 }
 
+# The numbers of the resources, which the code names.
+number_resources() {
+    rm -rf generated && mkdir generated
+    aapt package -f -m -J generated -M "$here/AndroidManifest.xml" -S "$here/res" \
+        -I "$tools/android-all.jar"
+}
+
 compile() {
     rm -rf classes && mkdir classes
-    javac --release 8 -Xlint:all,-options,-deprecation,-classfile -Werror -g:source,lines \
-        -classpath "$tools/android-all.jar" -d classes "$here"/src/velk/phone/android/*.java
+    javac --release 8 -XDsuppressNotes -Xlint:all,-options,-deprecation,-classfile -Werror -g:source,lines \
+        -classpath "$tools/android-all.jar" -d classes \
+        "$here"/src/velk/phone/android/*.java generated/velk/phone/android/R.java
     # Dex of the oldest supported Android: the tool refuses what such a phone cannot run.
     java -classpath "$tools/dalvik-dx.jar" com.android.dx.command.Main \
         --dex --min-sdk-version=19 --output=classes.dex classes
@@ -97,6 +105,7 @@ package=$(cd "$(dirname "$2")" && pwd)/$(basename "$2")
 cd "$1"
 tools=$PWD/tools
 fetch_tools
+number_resources
 compile
 write_mark
 assemble

@@ -1,0 +1,82 @@
+package velk.phone.android;
+
+import android.content.Context;
+import android.media.MediaScannerConnection;
+import android.net.Uri;
+import android.os.Environment;
+import java.io.File;
+import java.util.ArrayList;
+import java.util.List;
+import java.util.concurrent.CountDownLatch;
+import java.util.concurrent.TimeUnit;
+
+/** Files that the computer has copied to the phone, and that the phone's catalogue is to learn of. */
+final class AddedFiles extends Kind<Void> {
+    /** Where the computer puts what it copies. */
+    private static final String[] FOLDERS = {"music", "movies", "photo", "book"};
+
+    private static final int PATIENCE_SECONDS = 60;
+    private static final int MOST_FILES = 5000;
+    private static final int DEEPEST = 16;
+
+    private final Context context;
+    private final Rights rights;
+
+    AddedFiles(Context context, Rights rights) {
+        super("files");
+        this.context = context;
+        this.rights = rights;
+    }
+
+    @Override
+    long add(Item item) throws Refusal {
+        Rights.demand(rights.readFiles());
+        List<String> files = new ArrayList<String>();
+        String name = lastPart(item.path());
+        for (String folder : FOLDERS) {
+            gather(new File(new File(Environment.getExternalStorageDirectory(), folder), name),
+                    DEEPEST, files);
+        }
+        if (files.isEmpty()) {
+            throw new Refusal(Refusal.GONE, "There is no file of this name where files are copied to.");
+        }
+        scan(files);
+        return 0;
+    }
+
+    private static String lastPart(String path) throws Refusal {
+        int end = path.length();
+        while (end > 0 && path.charAt(end - 1) == '/') --end;
+        String name = path.substring(path.lastIndexOf('/', end - 1) + 1, end);
+        if (name.isEmpty() || name.equals(".") || name.equals("..") || name.indexOf('\0') >= 0) {
+            throw new Refusal(Refusal.BAD_REQUEST, "The path has no file name.");
+        }
+        return name;
+    }
+
+    /** A folder counts for all files below it. */
+    private static void gather(File file, int depth, List<String> files) {
+        if (files.size() >= MOST_FILES || depth == 0) return;
+        if (file.isFile()) files.add(file.getPath());
+        File[] inside = file.listFiles();
+        if (inside == null) return;
+        for (File one : inside) gather(one, depth - 1, files);
+    }
+
+    private void scan(List<String> files) throws Refusal {
+        final CountDownLatch missing = new CountDownLatch(files.size());
+        MediaScannerConnection.scanFile(context, files.toArray(new String[0]), null,
+                new MediaScannerConnection.OnScanCompletedListener() {
+                    @Override
+                    public void onScanCompleted(String path, Uri uri) {
+                        missing.countDown();
+                    }
+                });
+        try {
+            if (missing.await(PATIENCE_SECONDS, TimeUnit.SECONDS)) return;
+        } catch (InterruptedException stopped) {
+            // As good as too late.
+        }
+        throw new Refusal(Refusal.FAILED, "The phone has not looked at the file yet; it may later.");
+    }
+}

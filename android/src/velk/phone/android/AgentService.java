@@ -1,0 +1,141 @@
+package velk.phone.android;
+
+import android.app.Service;
+import android.content.BroadcastReceiver;
+import android.content.Context;
+import android.content.Intent;
+import android.content.IntentFilter;
+import android.os.Build;
+import android.os.Handler;
+import android.os.IBinder;
+import android.os.Looper;
+import android.util.Log;
+import java.io.IOException;
+
+/**
+ * Keeps the agent alive and its two sockets open, until the computer says goodbye, the person presses Stop,
+ * or the cable has been gone for a while. Nothing starts it but the page and the computer.
+ */
+public final class AgentService extends Service {
+    static final String STOP = "velk.phone.android.STOP";
+    /** What the computer broadcasts to have the sockets opened. */
+    static final String OPEN = "openUSBConnect";
+
+    private static final String TAG = "velk";
+    private static final String FIRST = "velk.phone.android.wire1";
+    private static final String SECOND = "velk.phone.android.wire2";
+    /** The sockets of an agent that has just ended may take a moment to go. */
+    private static final long AGAIN_MS = 300;
+
+    private final Handler handler = new Handler(Looper.getMainLooper());
+    private final Runnable open = new Runnable() {
+        @Override
+        public void run() {
+            openDoors();
+        }
+    };
+    private final BroadcastReceiver opener = new BroadcastReceiver() {
+        @Override
+        public void onReceive(Context context, Intent intent) {
+            openDoors();
+        }
+    };
+    private CableWatch cable;
+    private Doorkeeper first;
+    private Doorkeeper second;
+
+    static void start(Context context) {
+        Intent service = new Intent(context, AgentService.class);
+        if (Build.VERSION.SDK_INT >= 26) context.startForegroundService(service);
+        else context.startService(service);
+    }
+
+    @Override
+    public void onCreate() {
+        super.onCreate();
+        startForeground(ConnectedNotice.ID, ConnectedNotice.make(this));
+        registerReceiver(opener, new IntentFilter(OPEN));
+        cable = new CableWatch(this, new CableWatch.Quiet() {
+            @Override
+            public long milliseconds() {
+                return quietFor();
+            }
+        }, new Runnable() {
+            @Override
+            public void run() {
+                stopSelf();
+            }
+        });
+        cable.start();
+        openDoors();
+    }
+
+    @Override
+    public int onStartCommand(Intent intent, int flags, int id) {
+        // Whoever starts a service in the foreground must show this each time.
+        startForeground(ConnectedNotice.ID, ConnectedNotice.make(this));
+        if (intent != null && STOP.equals(intent.getAction())) stopSelf();
+        return START_NOT_STICKY;
+    }
+
+    @Override
+    public void onDestroy() {
+        handler.removeCallbacks(open);
+        unregisterReceiver(opener);
+        cable.stop();
+        closeDoors();
+        stopForeground(true);
+        super.onDestroy();
+    }
+
+    @Override
+    public IBinder onBind(Intent intent) {
+        return null;
+    }
+
+    /** Opens what is not open yet. */
+    private void openDoors() {
+        handler.removeCallbacks(open);
+        try {
+            Phone phone = new Phone(getApplicationContext());
+            if (first == null) first = keeper(FIRST, new FirstWire(phone, goodbye()));
+            if (second == null) second = keeper(SECOND, new SecondWire(phone));
+        } catch (IOException taken) {
+            Log.w(TAG, "A socket cannot be opened yet", taken);
+            handler.postDelayed(open, AGAIN_MS);
+        }
+    }
+
+    private static Doorkeeper keeper(String name, Wire wire) throws IOException {
+        return new Doorkeeper(new LocalDoor(name), wire, name);
+    }
+
+    private Runnable goodbye() {
+        return new Runnable() {
+            @Override
+            public void run() {
+                stopSelf();
+            }
+        };
+    }
+
+    private void closeDoors() {
+        final Doorkeeper[] open = {first, second};
+        first = null;
+        second = null;
+        // Closing connects to the sockets once more, which the main thread should not wait for.
+        new Thread(new Runnable() {
+            @Override
+            public void run() {
+                for (Doorkeeper one : open) if (one != null) one.stop();
+            }
+        }, "velk closing").start();
+    }
+
+    private long quietFor() {
+        long quiet = Long.MAX_VALUE;
+        if (first != null) quiet = Math.min(quiet, first.quietFor());
+        if (second != null) quiet = Math.min(quiet, second.quietFor());
+        return quiet;
+    }
+}

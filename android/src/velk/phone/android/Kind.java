@@ -1,0 +1,61 @@
+package velk.phone.android;
+
+import android.util.JsonWriter;
+import java.io.IOException;
+
+/** One kind of the phone's data. What a kind does not override is not possible with it. */
+abstract class Kind<T> {
+    final String name;
+
+    Kind(String name) {
+        this.name = name;
+    }
+
+    /** Why this kind cannot be read now, a sentence; null when it can. */
+    String readProblem() {
+        return null;
+    }
+
+    /** Why this kind cannot be changed now, a sentence; null when it can. */
+    String writeProblem() {
+        return null;
+    }
+
+    int count() throws Refusal {
+        throw notPossible();
+    }
+
+    /** Hands out the rows in the order of the phone's own lists. */
+    void each(Sink<T> sink) throws IOException, Refusal {
+        throw notPossible();
+    }
+
+    /** Writes the members of a row as the second wire names them. */
+    void write(T row, JsonWriter json) throws IOException {}
+
+    /** The id of what was added; 0 where it has none. */
+    long add(Item item) throws Refusal {
+        throw notPossible();
+    }
+
+    void change(Item item) throws Refusal {
+        throw notPossible();
+    }
+
+    void delete(Item item) throws Refusal {
+        throw notPossible();
+    }
+
+    /** How many were deleted. */
+    int deleteAll() throws Refusal {
+        throw notPossible();
+    }
+
+    void send(Item item) throws Refusal {
+        throw notPossible();
+    }
+
+    private Refusal notPossible() {
+        return new Refusal(Refusal.NOT_POSSIBLE, "That cannot be done with " + name + ".");
+    }
+}

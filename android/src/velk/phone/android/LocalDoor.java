@@ -1,0 +1,86 @@
+package velk.phone.android;
+
+import android.net.LocalServerSocket;
+import android.net.LocalSocket;
+import android.net.LocalSocketAddress;
+import java.io.IOException;
+import java.io.InputStream;
+import java.io.OutputStream;
+
+/** An abstract local socket. Unlike a TCP port it tells who connects, and takes no INTERNET permission. */
+final class LocalDoor implements Door {
+    /** Whoever is silent for so long, or leaves what it asked for unread, is let go. */
+    private static final int PATIENCE_MS = 60000;
+
+    private final String name;
+    private final LocalServerSocket socket;
+    private volatile boolean closed;
+
+    LocalDoor(String name) throws IOException {
+        this.name = name;
+        socket = new LocalServerSocket(name);
+    }
+
+    @Override
+    public Peer accept() throws IOException {
+        LocalSocket peer = socket.accept();
+        if (!closed) return new LocalPeer(peer);
+        peer.close();
+        throw new IOException("closed");
+    }
+
+    @Override
+    public void close() {
+        closed = true;
+        // On many versions closing a local socket leaves accept() waiting; a visitor wakes it.
+        LocalSocket visitor = new LocalSocket();
+        try {
+            visitor.connect(new LocalSocketAddress(name));
+        } catch (IOException nobodyWaits) {
+            // Then there is nobody to wake.
+        }
+        closeQuietly(visitor);
+        try {
+            socket.close();
+        } catch (IOException ignored) {
+            // It is of no use any more, closed or not.
+        }
+    }
+
+    private static void closeQuietly(LocalSocket socket) {
+        try {
+            socket.close();
+        } catch (IOException ignored) {
+            // The connection is over either way.
+        }
+    }
+
+    private static final class LocalPeer implements Peer {
+        private final LocalSocket socket;
+
+        LocalPeer(LocalSocket socket) {
+            this.socket = socket;
+        }
+
+        @Override
+        public int uid() throws IOException {
+            return socket.getPeerCredentials().getUid();
+        }
+
+        @Override
+        public InputStream in() throws IOException {
+            socket.setSoTimeout(PATIENCE_MS);
+            return socket.getInputStream();
+        }
+
+        @Override
+        public OutputStream out() throws IOException {
+            return socket.getOutputStream();
+        }
+
+        @Override
+        public void close() {
+            closeQuietly(socket);
+        }
+    }
+}

@@ -1,0 +1,108 @@
+package velk.phone.android;
+
+import android.app.Activity;
+import android.app.PendingIntent;
+import android.content.BroadcastReceiver;
+import android.content.Context;
+import android.content.Intent;
+import android.content.IntentFilter;
+import android.os.Build;
+import android.telephony.SmsManager;
+import java.util.ArrayList;
+import java.util.UUID;
+import java.util.concurrent.CountDownLatch;
+import java.util.concurrent.TimeUnit;
+
+/** Sends a text message and waits for what the phone says of it. The phone itself keeps it as sent. */
+final class MessageSender {
+    private static final int PATIENCE_SECONDS = 60;
+
+    private final Context context;
+
+    MessageSender(Context context) {
+        this.context = context;
+    }
+
+    void send(String number, String text) throws Refusal {
+        if (number.isEmpty() || text.isEmpty()) {
+            throw new Refusal(Refusal.BAD_REQUEST, "A message needs a number and a text.");
+        }
+        SmsManager manager = SmsManager.getDefault();
+        ArrayList<String> parts = manager.divideMessage(text);
+        Report report = new Report(context, parts.size());
+        try {
+            manager.sendMultipartTextMessage(number, null, parts, report.intents(), null);
+            report.await();
+        } finally {
+            report.close();
+        }
+    }
+
+    /** Gathers the phone's word on each part of one message. */
+    private static final class Report extends BroadcastReceiver {
+        private final Context context;
+        /** Nobody else can guess this name, so nobody else can report. */
+        private final String action = "velk.phone.android.SENT." + UUID.randomUUID();
+        private final CountDownLatch missing;
+        private final int parts;
+        private volatile int failure = Activity.RESULT_OK;
+
+        Report(Context context, int parts) {
+            this.context = context;
+            this.parts = parts;
+            missing = new CountDownLatch(parts);
+            context.registerReceiver(this, new IntentFilter(action));
+        }
+
+        ArrayList<PendingIntent> intents() {
+            int flags = PendingIntent.FLAG_ONE_SHOT;
+            if (Build.VERSION.SDK_INT >= 23) flags |= PendingIntent.FLAG_IMMUTABLE;
+            ArrayList<PendingIntent> intents = new ArrayList<PendingIntent>();
+            for (int i = 0; i < parts; ++i) {
+                Intent intent = new Intent(action).setPackage(context.getPackageName());
+                intents.add(PendingIntent.getBroadcast(context, i, intent, flags));
+            }
+            return intents;
+        }
+
+        @Override
+        public void onReceive(Context where, Intent intent) {
+            if (getResultCode() != Activity.RESULT_OK) failure = getResultCode();
+            missing.countDown();
+        }
+
+        void await() throws Refusal {
+            boolean told;
+            try {
+                told = missing.await(PATIENCE_SECONDS, TimeUnit.SECONDS);
+            } catch (InterruptedException stopped) {
+                told = false;
+            }
+            if (failure != Activity.RESULT_OK) throw new Refusal(Refusal.NOT_SENT, reason(failure));
+            if (!told) {
+                throw new Refusal(Refusal.NOT_SENT,
+                        "The phone has not said whether it sent the message; it may still do so.");
+            }
+        }
+
+        void close() {
+            context.unregisterReceiver(this);
+        }
+
+        private static String reason(int failure) {
+            switch (failure) {
+                case SmsManager.RESULT_ERROR_RADIO_OFF:
+                    return "The phone's radio is off; it may be in flight mode.";
+                case SmsManager.RESULT_ERROR_NO_SERVICE:
+                    return "The phone has no service.";
+                case 5: // RESULT_ERROR_LIMIT_EXCEEDED
+                    return "The phone lets an application send only so many messages in a while.";
+                case 7: // RESULT_ERROR_SHORT_CODE_NOT_ALLOWED
+                case 8: // RESULT_ERROR_SHORT_CODE_NEVER_ALLOWED
+                    return "The phone allows no messages to this number, which may cost more.";
+                default:
+                    return "The phone could not send the message (its reason number " + failure + ").";
+            }
+        }
+    }
+}

@@ -1,0 +1,17 @@
+package velk.phone.android;
+
+import java.io.IOException;
+import java.io.InputStream;
+import java.io.OutputStream;
+
+/** Who is at the other end of a connection. */
+interface Peer {
+    /** The user that the other end runs as; the system says so, not the peer. */
+    int uid() throws IOException;
+
+    InputStream in() throws IOException;
+
+    OutputStream out() throws IOException;
+
+    void close();
+}
