@@ -6,6 +6,7 @@ import android.content.BroadcastReceiver;
 import android.content.Context;
 import android.content.Intent;
 import android.content.IntentFilter;
+import android.content.pm.PackageManager;
 import android.os.Build;
 import android.telephony.SmsManager;
 import java.util.ArrayList;
@@ -26,6 +27,9 @@ final class MessageSender {
     void send(String number, String text) throws Refusal {
         if (number.isEmpty() || text.isEmpty()) {
             throw new Refusal(Refusal.BAD_REQUEST, "A message needs a number and a text.");
+        }
+        if (!context.getPackageManager().hasSystemFeature(PackageManager.FEATURE_TELEPHONY)) {
+            throw new Refusal(Refusal.NOT_SENT, "This phone sends no messages.");
         }
         SmsManager manager = SmsManager.getDefault();
         ArrayList<String> parts = manager.divideMessage(text);

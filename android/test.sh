@@ -1,0 +1,43 @@
+#!/usr/bin/env bash
+# Tests the agent on this computer, against the code of three Androids.
+#
+#   android/test.sh [BUILD_FOLDER] [MAVEN'S ARGUMENTS...]
+#
+# Maven loads what the tests need on the first run, and is not asked for the network afterwards.
+set -euo pipefail
+here=$(cd "$(dirname "$0")" && pwd)
+build=$(realpath -m "${1:-$here/../build/agent-tests}")
+[ $# -eq 0 ] || shift
+
+for command in mvn javac aapt; do
+    command -v "$command" >/dev/null ||
+        { echo "test.sh: $command is missing (Debian: default-jdk-headless maven aapt)" >&2 && exit 1; }
+done
+
+maven() { mvn --batch-mode --quiet --file "$here/pom.xml" "-Dbuild=$build" "$@"; }
+
+# The resources, and their numbers, which the code names.
+number_resources() {
+    mkdir -p "$build/generated"
+    maven dependency:copy -Dartifact=org.robolectric:android-all:14-robolectric-10818077 \
+        "-DoutputDirectory=$build/framework" "${@}"
+    aapt package -f -m -J "$build/generated" -M "$here/AndroidManifest.xml" -S "$here/res" \
+        -I "$build"/framework/android-all-*.jar -F "$build/resources.apk"
+}
+
+# By this file the framework on this computer finds manifest and resources.
+describe_package() {
+    mkdir -p "$build/configuration/com/android/tools"
+    cat >"$build/configuration/com/android/tools/test_config.properties" <<DESCRIPTION
+android_merged_manifest=$here/AndroidManifest.xml
+android_resource_apk=$build/resources.apk
+android_custom_package=velk.phone.android
+DESCRIPTION
+}
+
+offline=()
+[ ! -e "$build/.complete" ] || offline=(--offline)
+number_resources "${offline[@]}"
+describe_package
+maven "${offline[@]}" test "$@"
+touch "$build/.complete"

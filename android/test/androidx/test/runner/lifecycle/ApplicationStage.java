@@ -1,0 +1,4 @@
+package androidx.test.runner.lifecycle;
+
+/** As much of it as the tests' framework names. */
+public enum ApplicationStage { PRE_ON_CREATE, CREATED }
