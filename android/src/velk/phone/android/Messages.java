@@ -96,8 +96,8 @@ final class Messages extends Kind<Message> {
         Rights.demand(readProblem());
         long found;
         try (Cursor rows = Query.rows(resolver, URI, new String[] {"_id"},
-                "(_id & 255)=? AND (thread_id & 255)=?",
-                new String[] {Integer.toString(id), Integer.toString(thread)}, null)) {
+                // An argument would be a text, which no calculated number equals.
+                "(_id & 255)=" + id + " AND (thread_id & 255)=" + thread, null, null)) {
             if (rows.getCount() > 1) return false;
             if (!rows.moveToNext()) return true;
             found = rows.getLong(0);
