@@ -1,13 +1,13 @@
 #!/usr/bin/env bash
 # Tests the agent on this computer, against the code of three Androids.
 #
-#   android/test.sh [BUILD_FOLDER] [MAVEN'S ARGUMENTS...]
+#   android/test.sh [BUILD_FOLDER [MAVEN'S ARGUMENTS...]]
 #
-# Maven loads what the tests need on the first run, and is not asked for the network afterwards.
+# Maven loads what the tests need on the first run. All of it is pinned, so later runs need no network.
 set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)
 build=$(realpath -m "${1:-$here/../build/agent-tests}")
-[ $# -eq 0 ] || shift
+arguments=("${@:2}")
 
 for command in mvn javac aapt; do
     command -v "$command" >/dev/null ||
@@ -20,7 +20,7 @@ maven() { mvn --batch-mode --quiet --file "$here/pom.xml" "-Dbuild=$build" "$@";
 number_resources() {
     mkdir -p "$build/generated"
     maven dependency:copy -Dartifact=org.robolectric:android-all:14-robolectric-10818077 \
-        "-DoutputDirectory=$build/framework" "${@}"
+        "-DoutputDirectory=$build/framework"
     aapt package -f -m -J "$build/generated" -M "$here/AndroidManifest.xml" -S "$here/res" \
         -I "$build"/framework/android-all-*.jar -F "$build/resources.apk"
 }
@@ -35,9 +35,6 @@ android_custom_package=velk.phone.android
 DESCRIPTION
 }
 
-offline=()
-[ ! -e "$build/.complete" ] || offline=(--offline)
-number_resources "${offline[@]}"
+number_resources
 describe_package
-maven "${offline[@]}" test "$@"
-touch "$build/.complete"
+maven "${arguments[@]:-test}"

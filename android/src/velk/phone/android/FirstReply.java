@@ -38,16 +38,19 @@ final class FirstReply {
         text(Long.toString(value));
     }
 
-    /** Sends header and fields, and is empty again. */
+    /**
+     * Sends header and fields in one piece, and is empty again. The computer takes a header with a pause after
+     * it for the end of a list.
+     */
     void send(int code, OutputStream out) throws IOException {
-        FirstReply header = new FirstReply();
-        header.number(0, 1);
-        header.number(code, 1);
-        header.number(bytes.size() + 1, 4);
-        header.number(0, 1);
-        header.bytes.writeTo(out);
-        bytes.writeTo(out);
+        FirstReply whole = new FirstReply();
+        whole.number(0, 1);
+        whole.number(code, 1);
+        whole.number(bytes.size() + 1, 4);
+        whole.number(0, 1);
+        bytes.writeTo(whole.bytes);
         bytes.reset();
+        whole.bytes.writeTo(out);
     }
 
     /** Sends a value as text. Its length is read from one byte, as a signed number. */

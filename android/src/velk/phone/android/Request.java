@@ -31,8 +31,7 @@ final class Request {
         try {
             read(head, null);
         } catch (IOException | IllegalStateException | NumberFormatException broken) {
-            throw new Refusal(Refusal.BAD_REQUEST,
-                    "The request is not understood: " + broken.getMessage());
+            throw new Refusal(Refusal.BAD_REQUEST, "The line is no JSON object of a request's form.");
         }
         op = head.op;
         kind = head.kind;
