@@ -35,7 +35,7 @@ tools_are_whole() {
 fetch_tools() {
     mkdir -p "$tools"
     if tools_are_whole; then return; fi
-    mvn --batch-mode --quiet --file "$here/tools/pom.xml" "-Dtools=$tools" dependency:copy-dependencies ||
+    mvn --batch-mode --quiet -Dstyle.color=never --file "$here/tools/pom.xml" "-Dtools=$tools" dependency:copy-dependencies ||
         fail 'Maven did not deliver the platform classes and the class-to-dex tool'
     tools_are_whole || fail "what Maven delivered to $tools is not what was expected"
 }

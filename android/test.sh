@@ -14,7 +14,7 @@ for command in mvn javac aapt; do
         { echo "test.sh: $command is missing (Debian: default-jdk-headless maven aapt)" >&2 && exit 1; }
 done
 
-maven() { mvn --batch-mode --quiet --file "$here/pom.xml" "-Dbuild=$build" "$@"; }
+maven() { mvn --batch-mode --quiet -Dstyle.color=never --file "$here/pom.xml" "-Dbuild=$build" "$@"; }
 
 # The resources, and their numbers, which the code names.
 number_resources() {

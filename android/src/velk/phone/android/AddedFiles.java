@@ -33,15 +33,26 @@ final class AddedFiles extends Kind<Void> {
         Rights.demand(rights.readFiles());
         List<String> files = new ArrayList<String>();
         String name = lastPart(item.path());
-        for (String folder : FOLDERS) {
-            gather(new File(new File(Environment.getExternalStorageDirectory(), folder), name),
-                    DEEPEST, files);
-        }
+        for (File folder : folders()) gather(new File(folder, name), DEEPEST, files);
         if (files.isEmpty()) {
             throw new Refusal(Refusal.GONE, "There is no file of this name where files are copied to.");
         }
         scan(files);
         return 0;
+    }
+
+    /**
+     * The folders as the phone writes them: to its storage Music and music are one folder, to its catalogue
+     * they are two.
+     */
+    private static List<File> folders() throws Refusal {
+        File[] all = Environment.getExternalStorageDirectory().listFiles();
+        if (all == null) throw new Refusal(Refusal.FAILED, "The phone's storage cannot be read.");
+        List<File> folders = new ArrayList<File>();
+        for (File one : all) {
+            for (String name : FOLDERS) if (name.equalsIgnoreCase(one.getName())) folders.add(one);
+        }
+        return folders;
     }
 
     private static String lastPart(String path) throws Refusal {

@@ -307,7 +307,8 @@ public class SecondWireTest {
     @Test
     public void addedFilesAreFoundByTheirNameAlone() throws Exception {
         FakePhone.Scanner.scanned.clear();
-        File song = phone.file("music/*a|.mp3");
+        File song = phone.file("Music/*a|.mp3");
+        phone.file("Other/none.mp3");
         File inFolder = phone.file("photo/trip/1.jpg");
         assertEquals("done", result("add", "files", item("path", "/home/ann/*a|.mp3")));
         assertEquals("done", result("add", "files", item("path", "/home/ann/trip/")));
