@@ -23,7 +23,8 @@ needed=(
 check_commands() {
     local one missing=''
     for one in "${needed[@]}"; do
-        command -v "${one%%:*}" >/dev/null || missing+=" ${one#*:}"
+        if command -v "${one%%:*}" >/dev/null || [[ "$missing " == *" ${one#*:} "* ]]; then continue; fi
+        missing+=" ${one#*:}"
     done
     [ -z "$missing" ] || fail "these packages are missing:$missing"
 }

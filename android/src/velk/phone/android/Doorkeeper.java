@@ -9,7 +9,7 @@ import java.util.concurrent.ThreadPoolExecutor;
 import java.util.concurrent.TimeUnit;
 import java.util.concurrent.atomic.AtomicInteger;
 
-/** Lets the computer in and nobody else, and gives each connection a thread. */
+/** Accepts the connections of the computer and of nobody else, and gives each one a thread. */
 final class Doorkeeper {
     private static final String TAG = "velk";
     /** adbd runs as one of these two. */
@@ -27,7 +27,7 @@ final class Doorkeeper {
     private volatile long lastVisit = SystemClock.elapsedRealtime();
     private volatile boolean stopped;
 
-    /** Opens the house at once; only stop() closes it. */
+    /** Accepts connections from now on, until stop(). */
     Doorkeeper(Door door, Wire wire, String name) {
         this.door = door;
         this.wire = wire;
@@ -37,7 +37,7 @@ final class Doorkeeper {
         new Thread(new Runnable() {
             @Override
             public void run() {
-                letIn();
+                acceptAll();
             }
         }, name).start();
     }
@@ -49,12 +49,12 @@ final class Doorkeeper {
         workers.shutdown();
     }
 
-    /** Milliseconds since somebody was here, 0 while somebody is. */
+    /** Milliseconds since the last connection ended; 0 during one. */
     long quietFor() {
         return inside.get() > 0 ? 0 : SystemClock.elapsedRealtime() - lastVisit;
     }
 
-    private void letIn() {
+    private void acceptAll() {
         int failures = 0;
         while (!stopped && failures < MOST_FAILURES) {
             try {
@@ -100,7 +100,7 @@ final class Doorkeeper {
             wire.serve(peer.in(), peer.out());
         } catch (IOException gone) {
             // The computer has hung up; there is nobody to tell.
-        } catch (RuntimeException broken) {
+        } catch (RuntimeException | OutOfMemoryError broken) {
             Log.e(TAG, "A request ended in an error", broken);
         } finally {
             leave(peer);

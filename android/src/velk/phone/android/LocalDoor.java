@@ -9,7 +9,7 @@ import java.io.OutputStream;
 
 /** An abstract local socket. Unlike a TCP port it tells who connects, and takes no INTERNET permission. */
 final class LocalDoor implements Door {
-    /** Whoever is silent for so long, or leaves what it asked for unread, is let go. */
+    /** A connection on which nothing comes for so long is closed. */
     private static final int PATIENCE_MS = 60000;
 
     private final String name;
@@ -32,14 +32,14 @@ final class LocalDoor implements Door {
     @Override
     public void close() {
         closed = true;
-        // On many versions closing a local socket leaves accept() waiting; a visitor wakes it.
-        LocalSocket visitor = new LocalSocket();
+        // On many versions closing a local socket leaves accept() waiting; a connection ends that.
+        LocalSocket waker = new LocalSocket();
         try {
-            visitor.connect(new LocalSocketAddress(name));
+            waker.connect(new LocalSocketAddress(name));
         } catch (IOException nobodyWaits) {
             // Then there is nobody to wake.
         }
-        closeQuietly(visitor);
+        closeQuietly(waker);
         try {
             socket.close();
         } catch (IOException ignored) {

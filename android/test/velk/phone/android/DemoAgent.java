@@ -2,9 +2,12 @@ package velk.phone.android;
 
 import static org.robolectric.Shadows.shadowOf;
 
+import android.content.Intent;
 import android.content.pm.ApplicationInfo;
 import android.content.pm.PackageInfo;
 import android.net.Uri;
+import android.os.BatteryManager;
+import android.os.Environment;
 import android.os.Looper;
 import android.provider.MediaStore;
 import java.io.File;
@@ -21,6 +24,7 @@ import org.junit.runner.RunWith;
 import org.junit.runner.notification.Failure;
 import org.robolectric.RobolectricTestRunner;
 import org.robolectric.annotation.Config;
+import org.robolectric.shadows.ShadowStatFs;
 
 /** The agent behind two ports of this computer, with a made-up phone around it. */
 @RunWith(RobolectricTestRunner.class)
@@ -52,6 +56,7 @@ public class DemoAgent {
         fillMessages(phone, argument("messages", 1000));
         fillFiles(phone);
         installApplications(phone);
+        setFacts(phone);
         Runnable stay = new Runnable() {
             @Override
             public void run() {
@@ -105,6 +110,13 @@ public class DemoAgent {
                 phone.media.add(kinds[kind], id, file.getPath(), 1 + i * 100000000L, null);
             }
         }
+    }
+
+    private static void setFacts(FakePhone phone) {
+        phone.application.sendStickyBroadcast(new Intent(Intent.ACTION_BATTERY_CHANGED)
+                .putExtra(BatteryManager.EXTRA_LEVEL, 85).putExtra(BatteryManager.EXTRA_SCALE, 100));
+        ShadowStatFs.registerStats(Environment.getDataDirectory(), 400000, 150000, 150000);
+        ShadowStatFs.registerStats(Environment.getExternalStorageDirectory(), 450000, 200000, 200000);
     }
 
     private static void installApplications(FakePhone phone) {

@@ -35,13 +35,13 @@ import org.robolectric.annotation.Config;
 public class LifeTest {
     private static final int UNKNOWN = -1;
 
-    private static final class Visitor implements Peer {
+    private static final class FakePeer implements Peer {
         final int uid;
         final ByteArrayOutputStream got = new ByteArrayOutputStream();
         final CountDownLatch closed = new CountDownLatch(1);
         volatile boolean read;
 
-        Visitor(int uid) {
+        FakePeer(int uid) {
             this.uid = uid;
         }
 
@@ -68,14 +68,14 @@ public class LifeTest {
         }
     }
 
-    private static final class Street implements Door {
-        final LinkedBlockingQueue<Visitor> visitors = new LinkedBlockingQueue<>();
+    private static final class FakeDoor implements Door {
+        final LinkedBlockingQueue<FakePeer> peers = new LinkedBlockingQueue<>();
 
         @Override
         public Peer accept() throws IOException {
             try {
-                Visitor visitor = visitors.take();
-                if (visitor.closed.getCount() > 0) return visitor;
+                FakePeer peer = peers.take();
+                if (peer.closed.getCount() > 0) return peer;
             } catch (InterruptedException stopped) {
                 Thread.currentThread().interrupt();
             }
@@ -84,16 +84,16 @@ public class LifeTest {
 
         @Override
         public void close() {
-            Visitor last = new Visitor(0);
+            FakePeer last = new FakePeer(0);
             last.close();
-            visitors.add(last);
+            peers.add(last);
         }
     }
 
     @Test
     public void onlyRootAndTheShellGetIn() throws Exception {
-        Street street = new Street();
-        Doorkeeper keeper = new Doorkeeper(street, new Wire() {
+        FakeDoor door = new FakeDoor();
+        Doorkeeper keeper = new Doorkeeper(door, new Wire() {
             @Override
             public void serve(InputStream in, OutputStream out) throws IOException {
                 out.write(in.read());
@@ -102,12 +102,12 @@ public class LifeTest {
         }, "keeper");
         int[] uids = {0, 2000, 1000, 1001, 10050, UNKNOWN, 102000};
         for (int uid : uids) {
-            Visitor visitor = new Visitor(uid);
-            street.visitors.add(visitor);
-            assertTrue(visitor.closed.await(10, TimeUnit.SECONDS));
+            FakePeer peer = new FakePeer(uid);
+            door.peers.add(peer);
+            assertTrue(peer.closed.await(10, TimeUnit.SECONDS));
             boolean welcome = uid == 0 || uid == 2000;
-            assertEquals("uid " + uid, welcome, visitor.read);
-            assertEquals("uid " + uid, welcome ? "x" : "", visitor.got.toString());
+            assertEquals("uid " + uid, welcome, peer.read);
+            assertEquals("uid " + uid, welcome ? "x" : "", peer.got.toString());
         }
         keeper.stop();
     }
