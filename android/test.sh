@@ -38,3 +38,11 @@ DESCRIPTION
 number_resources
 describe_package
 maven "${arguments[@]:-test}"
+
+# Maven is quiet when all is well.
+if [ ${#arguments[@]} -eq 0 ]; then
+    run=$(cat "$build"/surefire-reports/TEST-*.xml | grep -o '<testsuite [^>]*' | grep -o ' tests="[0-9]*"' |
+        awk -F '"' '{ all += $2 } END { print all }')
+    [ "${run:-0}" -gt 0 ] || { echo 'test.sh: no test was run' >&2 && exit 1; }
+    echo "$run passed, 0 failed"
+fi

@@ -17,10 +17,11 @@ int last_number(const Phone_Numbering& numbering) {
 
 }  // namespace
 
-std::optional<int> Number_Pool::take(const std::function<bool(int)>& pleases) {
+std::optional<int> Number_Pool::take(const std::function<bool(int)>& is_acceptable) {
     for (int i = 0; i < last_number_; ++i) {
         const int number = (latest_ + i) % last_number_ + 1;
-        if (taken_[static_cast<std::size_t>(number)] || (pleases && !pleases(number))) continue;
+        if (taken_[static_cast<std::size_t>(number)] || (is_acceptable && !is_acceptable(number)))
+            continue;
         taken_[static_cast<std::size_t>(number)] = true;
         return latest_ = number;
     }

@@ -69,8 +69,8 @@ class Number_Pool {
     explicit Number_Pool(int last_number)
         : last_number_(last_number), taken_(static_cast<std::size_t>(last_number) + 1) {}
 
-    /// The next free number, in a circle, that also pleases the caller.
-    std::optional<int> take(const std::function<bool(int)>& pleases = {});
+    /// The next free number, in a circle, that is acceptable to the caller.
+    std::optional<int> take(const std::function<bool(int)>& is_acceptable = {});
     void give_back(int number) { taken_[static_cast<std::size_t>(number)] = false; }
 
   private:

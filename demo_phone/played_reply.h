@@ -18,7 +18,7 @@ class Played_Reply {
     bool begins(Phone_Outlet& outlet) const;
     /// Sends the next part of the reply. False when the reply ends here, whatever was to follow.
     bool send(std::string bytes, Phone_Outlet& outlet);
-    /// A reader that is told nonsense may never find the end that it closes the connection at.
+    /// A reader of a damaged reply may not find the end at which it would close the connection.
     bool is_broken() const;
     /// Bytes sent so far.
     std::size_t sent() const { return sent_; }

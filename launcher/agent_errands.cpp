@@ -30,7 +30,7 @@ std::string package_beside_the_launcher() {
     return (own.parent_path() / "velk.phone.android.PhoneConnActivity.apk").string();
 }
 
-/// Any other package, whatever it holds, gets no permission unasked.
+/// Any other package is installed without permissions, whatever it holds.
 bool is_beside_the_launcher(const std::string& package) {
     std::error_code error;
     return std::filesystem::equivalent(package, package_beside_the_launcher(), error) && !error;
@@ -58,7 +58,7 @@ bool agent_has_socket(const std::string& tool, const Command_Line& call, std::st
 }
 
 /// What installing cannot grant. Not every phone knows all of these, and the agent tells the
-/// program what it may not do in the end, so a failure is no news.
+/// program what it may not do in the end, so a failure is not reported.
 void grant_the_rest(const std::string& tool, const Command_Line& call) {
     const std::string agent(name_of_our_agent);
     const std::array<Words, 5> grants{{

@@ -12,7 +12,7 @@ namespace velk {
 inline constexpr std::string_view name_of_our_agent = "velk.phone.android";
 
 /// True when the file is a package of our own agent: a zip with the entry that our build puts into
-/// each of them. Neither the stand-in nor an agent of another make has it. False for what cannot
+/// each of them. The stand-in and the agents of others do not have it. False for what cannot
 /// be read.
 bool is_own_agent(const std::string& path);
 

@@ -20,7 +20,7 @@ build_package() {
     cpack --preset release
     package=$(echo build/release/velk_*_"$(dpkg --print-architecture)".deb)
     [ -f "$package" ] || fail 'no package was made'
-    android/check.sh build/release/bin/velk.phone.android.PhoneConnActivity.apk
+    android/check.sh build/release/agent/velk.phone.android.PhoneConnActivity.apk
 }
 
 # The version stands in three files; a release that forgets one is noticed here.

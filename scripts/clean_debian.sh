@@ -34,7 +34,7 @@ tried debootstrap --variant=minbase "$system" "$root" "$mirror"
 echo "$sources" >"$root/etc/apt/sources.list"
 apt-config dump Acquire >"$root/etc/apt/apt.conf.d/as-on-this-computer" # its proxy, above all
 echo force-unsafe-io >"$root/etc/dpkg/dpkg.cfg.d/short-lived"           # nothing here outlives a crash
-# So are the authorities that its administrator trusts, without which no other source may be reached.
+# The certificate authorities that were added to this computer: Maven may need them.
 mkdir -p "$root/usr/local/share/ca-certificates"
 cp -r /usr/local/share/ca-certificates/. "$root/usr/local/share/ca-certificates" 2>/dev/null || true
 mount --bind "$root" "$root"

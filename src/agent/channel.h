@@ -14,6 +14,8 @@ namespace velk {
 // The local end of the forward that leads to the agent.
 inline constexpr const char* agent_address = "127.0.0.1";
 inline constexpr std::uint16_t agent_port = 12300;
+/// That of the forward that leads to the agent's second wire.
+inline constexpr std::uint16_t second_wire_port = 12301;
 
 /// What a single reply may hold; the rest of a longer one is never read.
 inline constexpr std::size_t largest_single_reply = 1024;

@@ -24,8 +24,7 @@ constexpr char code_modify = '{';
 
 /// A reply to an add as the first wire brings it.
 std::string add_reply_with(const std::string& id) {
-    const auto high = static_cast<char>(id.size() >> 8), low = static_cast<char>(id.size());
-    return std::string(reply_header + 2, '\0') + high + low + id;
+    return std::string(reply_header + 3, '\0') + static_cast<char>(id.size()) + id;
 }
 
 }  // namespace
@@ -38,6 +37,7 @@ std::string sock_apk::send_command_get_contatcts_array(const char* code,
         refusal_ = list_on_second_wire(contacts);
         return {};
     }
+    refusal_.clear();
     Channel agent;
     if (!agent.connected()) return {};
     agent.send_code(code);

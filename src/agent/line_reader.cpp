@@ -22,7 +22,8 @@ std::optional<std::string_view> Line_Reader::next() {
         received_.erase(0, start_);
         start_ = 0;
         searched = received_.size();
-        if (received_.size() > longest_line || !receive_more()) return {};
+        too_long_ = received_.size() > longest_line;
+        if (too_long_ || !receive_more()) return {};
     }
 }
 

@@ -11,7 +11,8 @@
 
 namespace velk {
 
-/// The longest line of the second wire, in bytes: room for a contact with its picture.
+/// The longest line of the second wire, in bytes (about: what comes together is taken together):
+/// room for a contact with its picture.
 inline constexpr std::size_t longest_line = std::size_t{8} << 20;
 
 /// Blocks as its source does. Holds one line, and what came together with it.
@@ -28,6 +29,9 @@ class Line_Reader {
     /// at the end are no line.
     std::optional<std::string_view> next();
 
+    /// True when next() gave nothing because of a line that is too long.
+    bool found_too_long() const { return too_long_; }
+
   private:
     bool receive_more();
 
@@ -35,6 +39,7 @@ class Line_Reader {
     std::optional<Clock::time_point> latest_;
     std::string received_;
     std::size_t start_ = 0;  // of the next line in received_
+    bool too_long_ = false;
 };
 
 }  // namespace velk

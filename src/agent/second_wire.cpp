@@ -13,8 +13,17 @@ using simdjson::dom::object;
 
 constexpr const char* no_answer = "The agent on the phone does not answer.";
 constexpr const char* broken_off = "The connection to the phone broke off before the end.";
+constexpr const char* damaged = "The phone's answer is damaged.";
 
 constexpr std::size_t longest_reason = 300;  // bytes
+
+/// Ends a line, or changes the direction of the text around it.
+bool is_control(char32_t character) {
+    return character < U' ' || (character >= 0x7F && character < 0xA0) ||
+           (character >= 0x200E && character <= 0x200F) ||
+           (character >= 0x2028 && character <= 0x202E) ||
+           (character >= 0x2066 && character <= 0x2069);
+}
 
 /// Parses a line; a line with ill-formed UTF-8 in it is mended first.
 bool parse(simdjson::dom::parser& parser, std::string_view line, object& record) {
@@ -34,7 +43,8 @@ std::optional<Wire_End> end_in(const object& line, std::int64_t came) {
         return Wire_End{false, std::move(words)};
     }
     if (!has(line, "end")) return {};
-    const std::int64_t sent = number_of(line, "end");
+    std::int64_t sent = 0;
+    if (line["end"].get(sent) != simdjson::SUCCESS || sent < 0) return Wire_End{false, damaged};
     if (sent == came) return Wire_End{true, ""};
     return Wire_End{false, format("The phone sent %lld records, of which %lld could be read.",
                                   static_cast<long long>(sent), static_cast<long long>(came))};
@@ -52,6 +62,7 @@ Wire_End read_reply(Line_Reader& lines, const On_Record& on_record) {
         ++came;
         on_record(record);
     }
+    if (lines.found_too_long()) return {false, damaged};
     return {false, answered ? broken_off : no_answer};
 }
 
@@ -72,14 +83,16 @@ bool truth_of(const object& record, const char* member) {
     return record[member].get(truth) == simdjson::SUCCESS && truth;
 }
 
-std::string shown_reason(std::string words) {
-    words = as_utf8(words);
-    for (char& byte : words)
-        if (static_cast<unsigned char>(byte) < ' ') byte = ' ';
-    if (words.size() <= longest_reason) return words;
-    std::size_t end = longest_reason;
-    while (end > 0 && (static_cast<unsigned char>(words[end]) & 0xC0) == 0x80) --end;
-    return words.substr(0, end) + "...";
+std::string shown_reason(std::string_view words) {
+    const std::string text = as_utf8(words);
+    std::string shown;
+    for (std::string_view rest = text; !rest.empty();) {
+        const std::string_view before = rest;
+        const bool is_shown = !is_control(take_character(rest));
+        shown += is_shown ? before.substr(0, before.size() - rest.size()) : " ";
+        if (shown.size() > longest_reason) return shown + "...";
+    }
+    return shown;
 }
 
 Wire_End ask_second_wire(std::string_view request, const On_Record& on_record,

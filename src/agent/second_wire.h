@@ -15,9 +15,6 @@
 
 namespace velk {
 
-/// The local end of the forward that leads to the agent's second wire.
-inline constexpr std::uint16_t second_wire_port = 12301;
-
 /// A member's text; empty when it is missing or something else.
 std::string text_of(const simdjson::dom::object& record, const char* member);
 /// A whole number; 0 when it is missing or something else.
@@ -40,7 +37,8 @@ using On_Record = std::function<void(const simdjson::dom::object&)>;
 Wire_End ask_second_wire(std::string_view request, const On_Record& on_record,
                          std::optional<std::chrono::milliseconds> time = {});
 
-/// Words of the agent as they may be shown: one line of well-formed UTF-8, not too long.
-std::string shown_reason(std::string words);
+/// Words of the agent as they may be shown: one line of well-formed UTF-8, not too long, without
+/// characters that change the direction of what stands around them.
+std::string shown_reason(std::string_view words);
 
 }  // namespace velk

@@ -10,11 +10,20 @@ namespace {
 
 using Json = nlohmann::json;
 
-constexpr const char* no_result = "The phone did not say what became of it.";
+constexpr const char* no_result = "The phone did not confirm the change.";
+
+/// An id has at most the digits of a number of 64 bits, and its sign.
+constexpr std::size_t longest_id = 20;
+
+std::string id_in(const simdjson::dom::object& record) {
+    std::string id = text_of(record, "id");
+    const bool is_number = id.find_first_not_of("-0123456789") == std::string::npos;
+    return is_number && id.size() <= longest_id ? id : std::string();
+}
 
 Edit_Result result_in(const simdjson::dom::object& record) {
-    return {truth_of(record, "done"), text_of(record, "id"),
-            shown_reason(text_of(record, "message"))};
+    const bool done = truth_of(record, "done");
+    return {done, id_in(record), done ? "" : shown_reason(text_of(record, "message"))};
 }
 
 Edit_Result ask(const Json& request) {

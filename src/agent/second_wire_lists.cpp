@@ -1,7 +1,6 @@
 #include "agent/second_wire_lists.h"
 
 #include <algorithm>
-#include <limits>
 #include <string_view>
 
 #include "agent/second_wire.h"
@@ -111,11 +110,11 @@ std::string stored_value(const simdjson::dom::object& record, const char* name, 
         case Value::truth:
             return truth_of(record, name) ? "1" : "0";
         case Value::size:
-            return shown_size(static_cast<double>(number_of(record, name)));
+            return shown_size(std::max(static_cast<double>(number_of(record, name)), 0.0));
         case Value::duration:
             break;
     }
-    return shown_time(number_of(record, name));
+    return shown_time(std::max<std::int64_t>(number_of(record, name), 0));
 }
 
 template <class List, class Record>

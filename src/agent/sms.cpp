@@ -61,6 +61,7 @@ std::string sock_apk::send_command_get_sms(const char* code, std::vector<SMS_REC
         refusal_ = list_on_second_wire(messages);
         return {};
     }
+    refusal_.clear();
     Record_Places places(largest_chunk, packet_header, record_or_header);
     const auto parse = [&messages](const std::string& bytes, int start) {
         return get_sms_data_to_stru_array(bytes, static_cast<int>(bytes.size()), 1, messages, start,

@@ -1,6 +1,7 @@
 #include "agent/wire_choice.h"
 
 #include <algorithm>
+#include <array>
 #include <mutex>
 #include <optional>
 #include <utility>
@@ -17,15 +18,29 @@ constexpr std::int64_t oldest_wire_understood = 2;
 
 std::mutex choice_mutex;
 std::optional<Agent_Hello> choice;  // nothing: the first wire
+int choices = 0;
 
 void choose(std::optional<Agent_Hello> hello) {
     const std::lock_guard lock(choice_mutex);
     choice = std::move(hello);
+    ++choices;
 }
 
-Agent_Hello::Kind kind_in(const simdjson::dom::object& record) {
-    return {text_of(record, "kind"), truth_of(record, "read"), truth_of(record, "write"),
-            shown_reason(text_of(record, "message"))};
+constexpr std::array known_kinds = {"contacts", "messages", "applications", "music",
+                                    "photos",   "videos",   "books"};
+const std::string no_reason =
+    "Open Velk on the phone, allow there what is missing, then press Refresh.";
+constexpr std::size_t most_reasons_shown = 3;
+
+/// Keeps what is said of a kind, of each the first word and of no kind that Velk does not know.
+void take_kind(const simdjson::dom::object& record, std::vector<Agent_Hello::Kind>& kinds) {
+    const std::string name = text_of(record, "kind");
+    const bool known = std::find(known_kinds.begin(), known_kinds.end(), name) != known_kinds.end();
+    const bool taken = std::any_of(kinds.begin(), kinds.end(),
+                                   [&](const auto& kind) { return kind.name == name; });
+    if (known && !taken)
+        kinds.push_back({name, truth_of(record, "read"), truth_of(record, "write"),
+                         shown_reason(text_of(record, "message"))});
 }
 
 }  // namespace
@@ -38,10 +53,8 @@ void choose_wire() {
         [&](const simdjson::dom::object& record) {
             if (const std::int64_t version = number_of(record, "wire"); version > 0) {
                 wire = version;
-                hello.agent = text_of(record, "agent");
-                hello.android = text_of(record, "android");
             } else {
-                hello.kinds.push_back(kind_in(record));
+                take_kind(record, hello.kinds);
             }
         },
         time_for_a_hello);
@@ -59,22 +72,32 @@ bool second_wire_in_use() {
     return choice.has_value();
 }
 
+int wire_choices() {
+    const std::lock_guard lock(choice_mutex);
+    return choices;
+}
+
 Agent_Hello agent_hello() {
     const std::lock_guard lock(choice_mutex);
     return choice.value_or(Agent_Hello{});
 }
 
 std::string missing_rights(const Agent_Hello& hello) {
-    std::string kinds, why;
+    std::string kinds;
+    std::vector<std::string> reasons;
     for (const Agent_Hello::Kind& kind : hello.kinds) {
         if (kind.read && kind.write) continue;
         if (kind.name == "applications" && kind.read) continue;  // adb changes them, not the agent
-        kinds += (kinds.empty() ? "" : ", ") + shown_reason(kind.name);
-        if (why.empty()) why = kind.why_not;
+        kinds += (kinds.empty() ? "" : ", ") + kind.name;
+        const std::string& reason = kind.why_not.empty() ? no_reason : kind.why_not;
+        if (std::find(reasons.begin(), reasons.end(), reason) == reasons.end())
+            reasons.push_back(reason);
     }
     if (kinds.empty()) return {};
-    if (why.empty()) why = "Open Velk on the phone and allow there what is missing.";
-    return "Velk may not do everything with " + kinds + ": " + why;
+    std::string words = "Velk may not do everything with " + kinds + ":";
+    for (std::size_t i = 0; i < std::min(reasons.size(), most_reasons_shown); ++i)
+        words += " " + reasons[i];
+    return words;
 }
 
 }  // namespace velk

@@ -14,27 +14,27 @@ struct Agent_Hello {
         bool write = false;
         std::string why_not;  // a sentence, when one of the two is not possible now
     };
-    std::string agent;    // its version
-    std::string android;  // the phone's
-    std::vector<Kind> kinds;
+    std::vector<Kind> kinds;  // those that Velk knows, each once
 };
 
 /// Says hello on the second wire. An agent that answers within a second is spoken to there from now
 /// on; otherwise on the first. Worker.
 void choose_wire();
 
-/// As before the first choice. For tests and measurements: the program changes the wire of a phone
-/// in use by a new choice alone. Any thread.
+/// Chooses the first wire without asking. Any thread.
 void use_first_wire();
 
 /// Any thread.
 bool second_wire_in_use();
 
+/// How often a wire has been chosen, which is once for each connection. A command that was begun
+/// before the last choice has ids of another wire, perhaps. Any thread.
+int wire_choices();
+
 /// What was answered to the last hello; empty while the first wire is in use. Any thread.
 Agent_Hello agent_hello();
 
-/// What the agent may not do now and why, in one sentence with the way out; empty when it may do
-/// everything.
+/// With what the agent may not do everything now, and why, with the way out; empty when it may.
 std::string missing_rights(const Agent_Hello& hello);
 
 }  // namespace velk

@@ -25,7 +25,8 @@ constexpr std::string_view refused_by_a_check =
     "The phone's owner or a store's check refused the agent: switch off \"Verify apps over USB\" "
     "in the phone's developer options, or accept it on the phone, then connect again.";
 constexpr std::string_view damaged =
-    "The agent for real phones is not built, or its package is damaged: build it with \"cmake --build "
+    "The agent for real phones is not built, or its package is damaged: build it with \"cmake "
+    "--build "
     "--preset release --target agent\", or install Velk again, then connect again.";
 
 /// The first that stands in what was printed counts: the same failure may come with words of a more
@@ -39,8 +40,9 @@ constexpr Cause causes[] = {
     {"not enough space", no_room},
     {"No space left on device", no_room},
     {"INSTALL_FAILED_DEPRECATED_SDK_VERSION",
-     "This phone's Android takes no application made for systems as old as the agent is made for: "
-     "a newer Velk is needed."},
+     "This phone's Android refuses the agent because it is made for older versions: a newer Velk "
+     "is "
+     "needed."},
     {"INSTALL_FAILED_OLDER_SDK",
      "This phone's Android is too old for the agent, which needs Android 4.4 or later."},
     {"INSTALL_FAILED_VERIFICATION_FAILURE", refused_by_a_check},

@@ -24,6 +24,7 @@ std::string phone_in_use(Desktop& desktop);
 
 /// What a person is told whose command was meant for the phone before.
 inline constexpr const char* another_phone = "Another phone is connected by now.";
+inline constexpr const char* connected_anew = "The phone was connected anew meanwhile.";
 
 /// The last line that the tool printed; empty when it printed nothing.
 std::string last_line(const std::string& printed);

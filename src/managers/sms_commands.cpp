@@ -58,15 +58,21 @@ void SMS_TableSource::sms_delete_all(const std::string& phone) {
     const bool was_coming = list_is_coming();
     const int clears = desktop().ask([this] { return table_rows.clears(); });
     const std::vector<SMS_TableSource_Column> tried = rows_on_the_screen(table_rows, m_table);
-    for_each_on(phone, "Deleting", tried,
-                [this](const SMS_TableSource_Column& row) { return delete_one(row); });
-    post([this, was_coming, clears, count = tried.size()] {
+    bool refused = false;
+    for_each_listed(phone, "Deleting", tried, [&](const SMS_TableSource_Column& row) {
+        Outcome outcome = delete_one(row);
+        refused |= !outcome.reason.empty();
+        return outcome;
+    });
+    post([this, was_coming, clears, refused, count = tried.size()] {
         m_LB_sms_content.set_text("");
         if (count == 0 && was_coming)
             return quiet.tell_reason("The list was still coming, so nothing was deleted.");
         const bool some_were_not_tried = table_rows.clears() != clears || table_rows.size() > count;
         table_rows.clear();
         m_table.reload();
+        // A phone that says that messages stayed has them still.
+        if (refused) return reload_after_a_change();
         // No load follows; one that is under way has lost its table.
         list_may_be_old();
         if (some_were_not_tried) list_is_old_now();

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "agent/sock_apk.h"
+#include "agent/wire_choice.h"
 #include "base/text.h"
 #include "managers/filling.h"
 #include "managers/outcome.h"
@@ -149,6 +150,11 @@ class Table_Source {
     template <class Item, class Work>
     void for_each_on(const std::string& phone, const char* doing, const std::vector<Item>& items,
                      Work work);
+    /// The same for records that the phone has listed. Fails also once the phone was connected
+    /// anew: on the wire that is in use by now their ids may be cut to those of other records.
+    template <class Item, class Work>
+    void for_each_listed(const std::string& phone, const char* doing,
+                         const std::vector<Item>& items, Work work);
 
     /// Calls `delete_one` for every row that is selected now, in ascending order, whatever Outcome
     /// each has, then takes them all out of the table. Beeps, and gives false, when none is.
@@ -187,6 +193,15 @@ void Table_Source::for_each_on(const std::string& phone, const char* doing,
                                const std::vector<Item>& items, Work work) {
     for_each_told(doing, items, [&](const Item& item) {
         return phone_in_use(desktop()) == phone ? work(item) : Outcome{false, another_phone};
+    });
+}
+
+template <class Item, class Work>
+void Table_Source::for_each_listed(const std::string& phone, const char* doing,
+                                   const std::vector<Item>& items, Work work) {
+    const int connection = wire_choices();
+    for_each_on(phone, doing, items, [&](const Item& item) {
+        return wire_choices() == connection ? work(item) : Outcome{false, connected_anew};
     });
 }
 
@@ -251,7 +266,7 @@ bool Table_Source::delete_selected(const std::string& phone, Row_List<Row>& rows
                                    Delete_One delete_one) {
     const Chosen<Row> chosen = chosen_rows(rows, table);
     if (chosen.rows.empty()) return false;
-    for_each_on(phone, "Deleting", chosen.rows, delete_one);
+    for_each_listed(phone, "Deleting", chosen.rows, delete_one);
     post([&rows, &table, indexes = chosen.indexes, reloads = chosen.reloads] {
         // A load that came in between has put other rows in their places.
         if (table.reloads() == reloads) rows.erase(indexes);

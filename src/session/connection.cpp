@@ -67,7 +67,9 @@ void MainDocument::remove_device(const std::string& name) {
 }
 
 void MainDocument::look_at_port() {
-    show(m_LB_Port, trouble_with_port(agent_port));
+    std::string trouble = trouble_with_port(agent_port);
+    if (trouble.empty()) trouble = trouble_with_port(second_wire_port);
+    show(m_LB_Port, trouble);
 }
 
 // Worker, from here to the end of the file: what it changes on the window is posted in order.

@@ -1,9 +1,12 @@
 // Putting the agent on the phone and waking it. Worker.
 #include <array>
 
+#include "agent/channel.h"
 #include "agent/wire_choice.h"
 #include "base/trace.h"
 #include "bridge/install_result.h"
+#include "bridge/port_owner.h"
+#include "managers/phone_tool.h"
 #include "session/main_document.h"
 #include "ui/program_wide.h"
 
@@ -39,6 +42,7 @@ void MainDocument::adb_basic_informatin(const std::string&) {
         const std::string result = adb_install_apk(directory + "/" + file);
         log_line("%s", result.c_str());
         trouble = why_install_failed(result);
+        if (trouble.empty()) trouble = failure_in(result);
     }
     show(m_LB_ps, "Launching the application on your phone...");
 
@@ -48,7 +52,11 @@ void MainDocument::adb_basic_informatin(const std::string&) {
     show(m_LB_ps, "Start communicating ...");
     adb_broadcast();
     adb_tcp_in_mobile_phone_all();
-    choose_wire();
+    // A forward that could not be made leaves the port to somebody who is not the agent.
+    if (trouble_with_port(second_wire_port).empty())
+        choose_wire();
+    else
+        use_first_wire();
     if (trouble.empty()) trouble = missing_rights(agent_hello());
     if (!trouble.empty()) show(m_LB_Agent, trouble);
 

@@ -151,7 +151,7 @@ class MainDocument : public Main_Window, public Window_Outlets, public Adb_Wrapp
     void device_is_not_usable();
     void device_is_usable(const std::string& serial);
     void adb_basic_informatin(const std::string& serial);
-    void remove_agent();
+    void remove_agent(const std::string& phone);
 
     // The device summary. The order of the requests is fixed.
     void get_mobile_basic_information(Busy_Note& note);

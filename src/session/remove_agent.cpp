@@ -20,16 +20,17 @@ constexpr const char* removed = "Velk's application is no longer on the phone.";
 
 void MainDocument::OnMenu_RemoveAgent() {
     desktop_.open_alert(yes_or_no(question), [this, phone = g_device_serial_number](int button) {
-        if (button == yes && g_device_serial_number == phone)
-            run_command(desktop_, "remove agent", [this] { remove_agent(); });
+        if (button != yes) return;
+        run_command(desktop_, "remove agent", [this, phone] { remove_agent(phone); });
     });
 }
 
-void MainDocument::remove_agent() {
+void MainDocument::remove_agent(const std::string& phone) {
     std::string printed;
     {
         const Busy_Note note(desktop_, busy, "Removing Velk from the phone");
         const Phone_Tool tool = phone_tool(desktop_);
+        if (tool.serial != phone) return show_message(another_phone);
         ADB_Command().Uninstall_Apk_From_Android(tool.path, tool.serial, g_apk_delete_name,
                                                  &printed);
     }

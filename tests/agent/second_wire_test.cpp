@@ -11,7 +11,6 @@
 namespace velk {
 namespace {
 
-using testing::HasSubstr;
 using testing::StartsWith;
 
 constexpr int json = '{';  // with which every request begins
@@ -19,8 +18,10 @@ constexpr int json = '{';  // with which every request begins
 const std::string hello =
     "{\"wire\":2,\"agent\":\"1.0\",\"android\":\"14\",\"api\":34}\n"
     "{\"kind\":\"contacts\",\"read\":true,\"write\":true}\n"
-    "{\"kind\":\"messages\",\"read\":true,\"write\":false,\"message\":\"It is off.\"}\n"
-    "{\"end\":3}\n";
+    "{\"kind\":\"messages\",\"read\":true,\"write\":false,\"message\":\"It is\\u202E off.\"}\n"
+    "{\"kind\":\"messages\",\"read\":true,\"write\":true}\n"
+    "{\"kind\":\"books\",\"read\":false}\n{\"kind\":\"weather\",\"read\":false}\n"
+    "{\"end\":6}\n";
 
 class Second_Wire : public testing::Test {
   protected:
@@ -44,8 +45,10 @@ class Second_Wire : public testing::Test {
 
 TEST_F(Second_Wire, IsChosenByAWholeHelloAlone) {
     EXPECT_TRUE(choose_after(hello));
-    EXPECT_EQ(agent_hello().android, "14");
-    EXPECT_THAT(missing_rights(agent_hello()), HasSubstr("messages: It is off."));
+    EXPECT_EQ(
+        missing_rights(agent_hello()),
+        "Velk may not do everything with messages, books: It is  off. Open Velk on the phone, "
+        "allow there what is missing, then press Refresh.");
     EXPECT_TRUE(choose_after(Agent_Double::in_pieces(hello, 1)));
     const std::string others[] = {"",
                                   "\n",
@@ -66,7 +69,7 @@ TEST_F(Second_Wire, IsNotWaitedForLongerThanASecond) {
     endless.end = Agent_Double::Reply::End::stay_silent;
     const auto begin = std::chrono::steady_clock::now();
     EXPECT_FALSE(choose_after(endless));
-    EXPECT_GE(std::chrono::steady_clock::now() - begin, std::chrono::milliseconds(950));
+    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(20));
 }
 
 TEST_F(Second_Wire, CarriesIdsTextsAndSizesWhole) {
@@ -106,9 +109,10 @@ TEST_F(Second_Wire, SaysWhyAListCameShort) {
         {one + one.substr(0, 9), 1, "The connection to the phone broke off"},
         {"", 0, "The agent on the phone does not answer"},
         {one + broken + "{\"end\":2}\n", 1, "The phone sent 2 records, of which 1"},
-        {"{\"end\":-1}\n", 0, "The phone sent -1 records"},
-        {std::string(9 << 20, 'x') + "\n{\"end\":0}\n", 0,
-         "The agent on the phone does not answer"},
+        {"{\"end\":-1}\n", 0, "The phone's answer is damaged."},
+        {"{\"end\":\"0\"}\n", 0, "The phone's answer is damaged."},
+        {"{\"end\":18446744073709551615}\n", 0, "The phone's answer is damaged."},
+        {std::string(9 << 20, 'x') + "\n{\"end\":0}\n", 0, "The phone's answer is damaged."},
     };
     for (const auto& each : cases) {
         EXPECT_EQ(contacts_of(each.reply).size(), each.came) << each.reason;
@@ -158,8 +162,9 @@ TEST_F(Second_Wire, ChangesWhatIsNamedAndTellsWhyNot) {
          R"({"items":[{"path":"/b"}],"kind":"books","op":"delete"})"},
     };
     for (const auto& [edit, request] : edits) {
-        agent.reply_once_to(json,
-                            "{\"item\":0,\"done\":true,\"id\":\"4294967297\"}\n{\"end\":1}\n");
+        agent.reply_once_to(
+            json,
+            "{\"item\":0,\"done\":true,\"id\":\"4294967297\",\"message\":\"x\"}\n{\"end\":1}\n");
         EXPECT_TRUE(edit()) << request;
         EXPECT_EQ(agent.requests().back(), request + "\n");
         EXPECT_EQ(phone.refusal(), "");
@@ -169,7 +174,7 @@ TEST_F(Second_Wire, ChangesWhatIsNamedAndTellsWhyNot) {
         EXPECT_EQ(phone.refusal(), "Gone.");
         agent.reply_once_to(json, "{\"end\":0}\n");
         EXPECT_FALSE(edit()) << request;
-        EXPECT_THAT(phone.refusal(), StartsWith("The phone did not say"));
+        EXPECT_THAT(phone.refusal(), StartsWith("The phone did not confirm"));
     }
     const std::size_t asked = agent.requests().size();
     EXPECT_TRUE(phone.del_one_sms("300", "5") && phone.del_one_sms_for_NoS4("300", "5"));

@@ -116,5 +116,15 @@ TEST(Agent_Errands, install_grants_what_the_phone_lets_the_computer_grant) {
     }
 }
 
+TEST(Agent_Errands, install_grants_nothing_to_a_package_from_elsewhere) {
+    const Beside beside(our_package);
+    const Temporary_Folder folder;
+    const std::string copy = folder.path("other.apk");
+    std::ofstream(copy, std::ios::binary) << our_package;
+    beside.adb.answer("install -r", {"Success\n"});
+    beside.call({"install", "-r", copy});
+    EXPECT_EQ(beside.adb.call_lines(), Words{"install -r " + copy});
+}
+
 }  // namespace
 }  // namespace velk

@@ -154,5 +154,17 @@ TEST(SMS_Plain_Text, lists_the_messages_from_the_last_to_the_first) {
               "now\n\n(1)\n         [][]\n\n\n\n(2)\n5         [d][Inbox]\n\na\nb\n");
 }
 
+TEST_F(SMS_Test, deletes_nothing_more_once_the_phone_was_connected_anew) {
+    load({{"1", "one", "2024", 1, 7, 1}, {"2", "two", "2024", 1, 8, 1}});
+    sms.m_table.select({0, 1}, 0);
+    agent.reply_to(78, "ok");
+    window.test_desktop.answer_alert(yes);
+    during_an_edit(
+        78, [this] { sms.OnClick_Button_Delete(); }, choose_wire);
+    EXPECT_EQ(edits().size(), 3U);  // the three forms of the first one
+    EXPECT_EQ(sms.quiet.m_LB_Quiet.text(),
+              "1 of 2 failed: The phone was connected anew meanwhile.");
+}
+
 }  // namespace
 }  // namespace velk
