@@ -1,6 +1,7 @@
 package velk.phone.android;
 
 import android.app.Activity;
+import android.content.Intent;
 import android.os.Build;
 import android.os.Bundle;
 import android.view.Gravity;
@@ -31,6 +32,13 @@ public final class PhoneConnActivity extends Activity {
         ScrollView scroll = new ScrollView(this);
         scroll.addView(page);
         setContentView(scroll);
+        AgentService.start(this);
+    }
+
+    /** The computer opens the page again when the agent has ended and the page has not. */
+    @Override
+    protected void onNewIntent(Intent intent) {
+        super.onNewIntent(intent);
         AgentService.start(this);
     }
 

@@ -106,6 +106,9 @@ final class SecondWire implements Wire {
 
     private static void edit(final Request request, final Kind<?> kind, final ReplyWriter reply)
             throws IOException, Refusal {
+        if (request.all && request.hasItems) {
+            throw new Refusal(Refusal.BAD_REQUEST, "The request names both items and everything.");
+        }
         if (request.all && request.op.equals("delete")) {
             deleteAll(kind, reply);
             return;

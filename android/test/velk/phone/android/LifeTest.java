@@ -26,6 +26,7 @@ import org.junit.runner.RunWith;
 import org.robolectric.Robolectric;
 import org.robolectric.RobolectricTestRunner;
 import org.robolectric.RuntimeEnvironment;
+import org.robolectric.android.controller.ActivityController;
 import org.robolectric.android.controller.ServiceController;
 import org.robolectric.annotation.Config;
 
@@ -190,9 +191,12 @@ public class LifeTest {
     @Test
     public void thePageStartsTheAgentAndAsksForWhatIsMissing() {
         shadowOf(RuntimeEnvironment.getApplication()).grantPermissions(Rights.CONTACTS);
-        PhoneConnActivity page = Robolectric.buildActivity(PhoneConnActivity.class).setup().get();
-        Intent started = shadowOf(RuntimeEnvironment.getApplication()).getNextStartedService();
-        assertEquals(AgentService.class.getName(), started.getComponent().getClassName());
+        ActivityController<PhoneConnActivity> controller =
+                Robolectric.buildActivity(PhoneConnActivity.class).setup();
+        PhoneConnActivity page = controller.get();
+        assertEquals(AgentService.class.getName(), nextStarted());
+        controller.newIntent(new Intent());
+        assertEquals("opened again", AgentService.class.getName(), nextStarted());
         assertNull(button(page.findViewById(android.R.id.content), "Allow contacts"));
         Button messages = button(page.findViewById(android.R.id.content), "Allow messages");
         assertEquals(Build.VERSION.SDK_INT >= 23, messages != null);
@@ -200,6 +204,11 @@ public class LifeTest {
         messages.performClick();
         assertEquals("android.permission.READ_SMS",
                 shadowOf(page).getLastRequestedPermission().requestedPermissions[0]);
+    }
+
+    private static String nextStarted() {
+        return shadowOf(RuntimeEnvironment.getApplication()).getNextStartedService().getComponent()
+                .getClassName();
     }
 
     private static Button button(View view, String text) {

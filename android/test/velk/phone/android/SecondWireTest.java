@@ -85,6 +85,7 @@ public class SecondWireTest {
             {"{\"op\":\"hello\",\"x\":" + new String(new char[99999]).replace('\0', '[') + "}", "bad-request"},
             {"{\"op\":\"list\"}", "bad-request"}, {"{\"op\":\"add\",\"kind\":\"contacts\"}", "bad-request"},
             {"{\"op\":\"add\",\"kind\":\"contacts\",\"items\":[{\"name\":\"Ann\"},7]}", "bad-request"},
+            {"{\"op\":\"delete\",\"kind\":\"contacts\",\"all\":true,\"items\":[]}", "bad-request"},
             {"{\"op\":\"fly\"}", "unknown-operation"}, {"{\"op\":\"list\",\"kind\":\"x\"}", "unknown-kind"},
             {"{\"op\":\"list\",\"kind\":\"files\"}", "not-possible"},
             {"{\"op\":\"delete\",\"kind\":\"messages\",\"all\":true}", "not-possible"},
