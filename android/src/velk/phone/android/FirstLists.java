@@ -3,7 +3,10 @@ package velk.phone.android;
 import java.io.IOException;
 import java.io.OutputStream;
 
-/** The lists of the first wire. Their header counts what follows, so all but the messages are held as a whole. */
+/**
+ * The lists of the first wire. Their header counts what follows, so all but the messages are held as a
+ * whole.
+ */
 final class FirstLists {
     /** A packet's length is read in 16 bits; one more message of the longest kind fits in. */
     private static final int FULL_PACKET = 32768;

@@ -5,7 +5,10 @@ import java.io.IOException;
 import java.io.OutputStream;
 import java.nio.charset.StandardCharsets;
 
-/** A reply of the first wire: a header that counts what comes after it, and fields. Numbers begin with the high byte. */
+/**
+ * A reply of the first wire: a header that counts what comes after it, and fields. Numbers begin with the
+ * high byte.
+ */
 final class FirstReply {
     /** A field's length is read in 16 bits. */
     private static final int LONGEST_TEXT = 65535;

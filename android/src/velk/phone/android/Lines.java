@@ -25,7 +25,9 @@ final class Lines {
                 if (end < 0) discard(in, chunk);
                 throw new Refusal(Refusal.TOO_LONG, "A request has at most " + LONGEST + " bytes.");
             }
-            if (length + used > line.length) line = Arrays.copyOf(line, Math.max(2 * line.length, length + used));
+            if (length + used > line.length) {
+                line = Arrays.copyOf(line, Math.max(2 * line.length, length + used));
+            }
             System.arraycopy(chunk, 0, line, length, used);
             length += used;
             if (end >= 0) return Arrays.copyOf(line, length);
