@@ -3,6 +3,7 @@
 #include <nlohmann/json.hpp>
 
 #include "agent/second_wire.h"
+#include "base/text.h"
 
 namespace velk {
 
@@ -11,6 +12,10 @@ namespace {
 using Json = nlohmann::json;
 
 constexpr const char* no_result = "The phone did not confirm the change.";
+
+constexpr const char* no_name =
+    "The file's name is not UTF-8, so the phone cannot list it: rename the file, then add it "
+    "again.";
 
 /// An id has at most the digits of a number of 64 bits, and its sign.
 constexpr std::size_t longest_id = 20;
@@ -69,6 +74,8 @@ Edit_Result send_message(const std::string& number, const std::string& text) {
 }
 
 Edit_Result add_file(const std::string& path) {
+    // A line of the wire is UTF-8. The phone lists such a file, if at all, under another name.
+    if (!is_utf8(path.substr(path.rfind('/') + 1))) return {false, "", no_name};
     return edit("add", "files", {{"path", path}});
 }
 

@@ -177,6 +177,8 @@ TEST_F(Second_Wire, ChangesWhatIsNamedAndTellsWhyNot) {
         EXPECT_THAT(phone.refusal(), StartsWith("The phone did not confirm"));
     }
     const std::size_t asked = agent.requests().size();
+    EXPECT_FALSE(phone.add_one_for_music_image_video_book(108, "/a/\xFF.mp3"));
+    EXPECT_THAT(phone.refusal(), StartsWith("The file's name is not UTF-8"));
     EXPECT_TRUE(phone.del_one_sms("300", "5") && phone.del_one_sms_for_NoS4("300", "5"));
     EXPECT_EQ(agent.requests().size(), asked);  // the third one deletes
 }

@@ -35,10 +35,16 @@ person() {
     }
     # The contacts are there once the phone is connected; until then the keys do nothing. From the
     # search box Tab leads over seven buttons to the rows.
+    local tabs=(-k Tab -k Tab -k Tab -k Tab -k Tab -k Tab -k Tab -k Tab)
     copies_contacts() {
-        local tabs=(-k Tab -k Tab -k Tab -k Tab -k Tab -k Tab -k Tab -k Tab)
         wtype -M ctrl 1 -s 200 f -m ctrl -s 200 "${tabs[@]}" -s 100 -M ctrl a -s 100 c -m ctrl -s 300
         [ "$(wl-paste --no-newline 2>/dev/null | wc -l)" -ge 239 ]
+    }
+    # Pasted into the search box, a number leaves its row alone to be copied.
+    pastes_a_number() {
+        wl-copy -- "${row##*$'\t'}"
+        wtype -M ctrl f -s 100 a -s 100 v -m ctrl -s 300 "${tabs[@]}" -s 100 -M ctrl a -s 100 c -m ctrl -s 300
+        [ "$(wl-paste --no-newline 2>/dev/null)" = "$row" ]
     }
     asks_for_front() { grep -q 'activate("token-of-a-launcher", wl_surface' "$folder/wire"; }
 
@@ -46,6 +52,9 @@ person() {
     trap "kill $! && wait" EXIT
     wait_until is_known_by_name || fail 'the desktop does not know the window by its name'
     wait_until copies_contacts || fail 'what was copied cannot be pasted'
+    local row
+    row=$(wl-paste --no-newline | sed -n 100p)
+    wait_until pastes_a_number || fail 'what was copied elsewhere cannot be pasted here'
     XDG_ACTIVATION_TOKEN=token-of-a-launcher "$velk" || fail 'the second start'
     wait_until asks_for_front || fail 'the window does not ask for the front'
 }
