@@ -121,7 +121,7 @@ TEST(Agent_Errands, install_grants_nothing_to_a_package_from_elsewhere) {
     const Temporary_Folder folder;
     const std::string copy = folder.path("other.apk");
     std::ofstream(copy, std::ios::binary) << our_package;
-    beside.adb.answer("install -r", {"Success\n"});
+    beside.adb.answer("install -r", "Success\n");
     beside.call({"install", "-r", copy});
     EXPECT_EQ(beside.adb.call_lines(), Words{"install -r " + copy});
 }
