@@ -49,10 +49,14 @@ number_resources() {
 }
 
 # Another compiler warns of other things, which are no reason to stop whoever builds with it.
-strict=()
-if [ "${VELK_WARNINGS_AS_ERRORS:-}" = ON ]; then strict=(-Werror); fi
+tried_compiler='javac 17'
+warnings_are_errors() {
+    [ "${VELK_WARNINGS_AS_ERRORS:-}" = ON ] && [[ $(javac -version 2>&1) == "$tried_compiler".* ]]
+}
 
 compile() {
+    local strict=()
+    if warnings_are_errors; then strict=(-Werror); fi
     rm -rf classes && mkdir classes
     javac --release 8 -XDsuppressNotes -Xlint:all,-options,-deprecation,-classfile "${strict[@]}" -g:source,lines \
         -classpath "$tools/android-all.jar" -d classes \
