@@ -63,7 +63,8 @@ Wire_End read_reply(Line_Reader& lines, const On_Record& on_record) {
         on_record(record);
     }
     if (lines.found_too_long()) return {false, damaged};
-    return {false, answered ? broken_off : no_answer};
+    if (answered) return {false, broken_off};
+    return {false, no_answer, true};
 }
 
 }  // namespace

@@ -28,6 +28,8 @@ struct Wire_End {
     bool whole = false;
     /// Why not: the agent's own words, or ours. A short sentence for a person.
     std::string reason;
+    /// The connection was taken and closed again without a line: nobody listens on the phone yet.
+    bool closed_at_once = false;
 };
 
 using On_Record = std::function<void(const simdjson::dom::object&)>;

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "agent/second_wire.h"
+#include "base/interruptor.h"
 #include "base/trace.h"
 
 namespace velk {
@@ -14,6 +15,7 @@ namespace velk {
 namespace {
 
 constexpr std::chrono::milliseconds time_for_a_hello{1000};
+constexpr std::chrono::milliseconds pause_between_hellos{100};
 constexpr std::int64_t oldest_wire_understood = 2;
 
 std::mutex choice_mutex;
@@ -43,21 +45,34 @@ void take_kind(const simdjson::dom::object& record, std::vector<Agent_Hello::Kin
                          shown_reason(text_of(record, "message"))});
 }
 
+/// One hello, of which the answer is waited for no longer than `time`.
+Wire_End say_hello(Agent_Hello& hello, std::int64_t& wire, std::chrono::milliseconds time) {
+    return ask_second_wire(R"({"op":"hello"})",
+                           [&](const simdjson::dom::object& record) {
+                               if (const std::int64_t version = number_of(record, "wire");
+                                   version > 0) {
+                                   wire = version;
+                               } else {
+                                   take_kind(record, hello.kinds);
+                               }
+                           },
+                           time);
+}
+
 }  // namespace
 
 void choose_wire() {
+    using Clock = std::chrono::steady_clock;
+    const auto latest = Clock::now() + time_for_a_hello;
     Agent_Hello hello;
     std::int64_t wire = 0;
-    const Wire_End end = ask_second_wire(
-        R"({"op":"hello"})",
-        [&](const simdjson::dom::object& record) {
-            if (const std::int64_t version = number_of(record, "wire"); version > 0) {
-                wire = version;
-            } else {
-                take_kind(record, hello.kinds);
-            }
-        },
-        time_for_a_hello);
+    Wire_End end;
+    do {
+        const auto left = std::chrono::ceil<std::chrono::milliseconds>(latest - Clock::now());
+        end = say_hello(hello, wire, left);
+        // An agent that is still starting: the tool takes the connection and finds nobody.
+    } while (end.closed_at_once && Clock::now() + pause_between_hellos < latest &&
+             Interruptor::current().sleep_for(pause_between_hellos));
     const bool second = end.whole && wire >= oldest_wire_understood;
     trace("Wire: %d\n", second ? 2 : 1);
     choose(second ? std::optional(std::move(hello)) : std::nullopt);

@@ -17,8 +17,8 @@ struct Agent_Hello {
     std::vector<Kind> kinds;  // those that Velk knows, each once
 };
 
-/// Says hello on the second wire. An agent that answers within a second is spoken to there from now
-/// on; otherwise on the first. Worker.
+/// Says hello on the second wire, again while nobody listens yet. An agent that answers within a
+/// second is spoken to there from now on; otherwise on the first. Worker.
 void choose_wire();
 
 /// Chooses the first wire without asking. Any thread.

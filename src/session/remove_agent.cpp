@@ -1,4 +1,5 @@
 // Taking the agent off the phone, for a person who wants nothing of Velk to stay there.
+#include "agent/wire_choice.h"
 #include "base/text.h"
 #include "base/trace.h"
 #include "bridge/adb_command.h"
@@ -39,6 +40,7 @@ void MainDocument::remove_agent(const std::string& phone) {
         return show_message(format("Velk's application could not be removed from the phone: %s",
                                    answer.empty() ? "adb does not say why." : answer.c_str()));
     on_window([this] {
+        use_first_wire();
         hidden_some(true);
         refresh_ini_ui();
         m_LB_ps.set_text(removed);

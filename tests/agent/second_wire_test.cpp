@@ -50,6 +50,8 @@ TEST_F(Second_Wire, IsChosenByAWholeHelloAlone) {
         "Velk may not do everything with messages, books: It is  off. Open Velk on the phone, "
         "allow there what is missing, then press Refresh.");
     EXPECT_TRUE(choose_after(Agent_Double::in_pieces(hello, 1)));
+    agent.reply_once_to(json, "");  // it is still starting
+    EXPECT_TRUE(choose_after(hello));
     const std::string others[] = {"",
                                   "\n",
                                   "\1\2\3\n",

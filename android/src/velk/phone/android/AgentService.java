@@ -26,6 +26,7 @@ public final class AgentService extends Service {
     private static final String SECOND = "velk.phone.android.wire2";
     /** The sockets of an agent that has just ended may take a moment to go. */
     private static final long AGAIN_MS = 300;
+    private static final long LONGEST_AGAIN_MS = 10000;
 
     private final Handler handler = new Handler(Looper.getMainLooper());
     private final Runnable open = new Runnable() {
@@ -40,9 +41,11 @@ public final class AgentService extends Service {
             openDoors();
         }
     };
+    private int lastStart;
     private CableWatch cable;
     private Doorkeeper first;
     private Doorkeeper second;
+    private long again = AGAIN_MS;
 
     static void start(Context context) {
         Intent service = new Intent(context, AgentService.class);
@@ -63,7 +66,7 @@ public final class AgentService extends Service {
         }, new Runnable() {
             @Override
             public void run() {
-                stopSelf();
+                stop();
             }
         });
         cable.start();
@@ -74,8 +77,14 @@ public final class AgentService extends Service {
     public int onStartCommand(Intent intent, int flags, int id) {
         // Whoever starts a service in the foreground must show this each time.
         startForeground(ConnectedNotice.ID, ConnectedNotice.make(this));
-        if (intent != null && STOP.equals(intent.getAction())) stopSelf();
+        lastStart = id;
+        if (intent != null && STOP.equals(intent.getAction())) stop();
         return START_NOT_STICKY;
+    }
+
+    /** Main thread. Does nothing when a newer start is on its way, which must not find the service gone. */
+    private void stop() {
+        stopSelf(lastStart);
     }
 
     @Override
@@ -101,9 +110,12 @@ public final class AgentService extends Service {
             if (first == null) first = keeper(FIRST, new FirstWire(phone, goodbye()));
             if (second == null) second = keeper(SECOND, new SecondWire(phone));
         } catch (IOException taken) {
-            Log.w(TAG, "A socket cannot be opened yet", taken);
-            handler.postDelayed(open, AGAIN_MS);
+            if (again == AGAIN_MS) Log.w(TAG, "A socket cannot be opened yet", taken);
+            handler.postDelayed(open, again);
+            again = Math.min(2 * again, LONGEST_AGAIN_MS);
+            return;
         }
+        again = AGAIN_MS;
     }
 
     private static Doorkeeper keeper(String name, Wire wire) throws IOException {
@@ -114,7 +126,12 @@ public final class AgentService extends Service {
         return new Runnable() {
             @Override
             public void run() {
-                stopSelf();
+                handler.post(new Runnable() {
+                    @Override
+                    public void run() {
+                        stop();
+                    }
+                });
             }
         };
     }

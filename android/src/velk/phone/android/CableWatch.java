@@ -49,9 +49,8 @@ final class CableWatch extends BroadcastReceiver {
 
     void start() {
         unpluggedSince = now();
-        IntentFilter filter = new IntentFilter(USB_STATE);
-        filter.addAction(Intent.ACTION_POWER_DISCONNECTED);
-        Intent state = context.registerReceiver(this, filter);
+        // Not the state of the power: a phone may stop charging while the cable goes on carrying data.
+        Intent state = context.registerReceiver(this, new IntentFilter(USB_STATE));
         if (state != null) onReceive(context, state);
         handler.postDelayed(look, LOOK_MS);
     }
@@ -64,7 +63,7 @@ final class CableWatch extends BroadcastReceiver {
     @Override
     public void onReceive(Context where, Intent intent) {
         boolean before = plugged;
-        plugged = USB_STATE.equals(intent.getAction()) && intent.getBooleanExtra(CONNECTED, false);
+        plugged = intent.getBooleanExtra(CONNECTED, false);
         wasPlugged |= plugged;
         if (before && !plugged) unpluggedSince = now();
     }

@@ -52,7 +52,7 @@ final class ContactEditor {
 
     /** Gives a contact another name and another number in place of the one that the list shows. */
     void change(long id, String name, String number) throws Refusal {
-        List<Long> owners = writableOwners(id);
+        List<Long> owners = writableOwners(id, readOnlyAccountTypes());
         ArrayList<ContentProviderOperation> edits = new ArrayList<ContentProviderOperation>();
         changeName(id, name, owners, edits);
         changeNumber(id, number, owners, edits);
@@ -60,8 +60,7 @@ final class ContactEditor {
     }
 
     void delete(long id) throws Refusal {
-        Owners owners = ownersOf(id);
-        if (owners.readOnly) throw readOnly();
+        writableOwners(id, readOnlyAccountTypes());
         resolver.delete(contact(id), null, null);
         if (exists(id)) throw readOnly();
     }
@@ -69,40 +68,36 @@ final class ContactEditor {
     /** Deletes all contacts but those of accounts that take no changes; gives how many went. */
     int deleteAll() throws Refusal {
         List<Long> ids = allIds();
+        Set<String> readOnlyTypes = readOnlyAccountTypes();
         int refused = 0;
         ArrayList<ContentProviderOperation> edits = new ArrayList<ContentProviderOperation>();
         for (long id : ids) {
-            if (ownersOf(id).readOnly) ++refused;
+            if (ownersOf(id, readOnlyTypes).isEmpty()) ++refused;
             else edits.add(ContentProviderOperation.newDelete(contact(id)).build());
             if (edits.size() == BATCH) apply(edits);
         }
         if (!edits.isEmpty()) apply(edits);
         if (refused > 0 && refused == ids.size()) throw readOnly();
-        return ids.size() - Query.count(resolver, ContactsContract.Contacts.CONTENT_URI, null, null);
+        return ids.size() - Query.count(resolver, Contacts.LISTED, null, null);
     }
 
     private void changeName(long id, String name, List<Long> owners,
             List<ContentProviderOperation> edits) throws Refusal {
-        DataRow shown = null;
-        int rows = 0;
         String displayed = displayName(id);
-        for (DataRow row : data(id, StructuredName.CONTENT_ITEM_TYPE, Data._ID)) {
-            ++rows;
-            if (shown == null || (row.text.equals(displayed) && !shown.text.equals(displayed))) shown = row;
-        }
         if (name.equals(displayed)) return;
+        List<DataRow> rows = data(id, StructuredName.CONTENT_ITEM_TYPE, Data._ID);
+        DataRow shown = writableRow(rows, displayed, owners);
         if (shown == null) {
             edits.add(insert(StructuredName.CONTENT_ITEM_TYPE)
                     .withValue(Data.RAW_CONTACT_ID, owners.get(0))
                     .withValue(StructuredName.DISPLAY_NAME, name).build());
             return;
         }
-        demandOwner(owners, shown);
         // The phone derives given and family name from this one.
         ContentProviderOperation.Builder edit = update(shown)
                 .withValue(StructuredName.DISPLAY_NAME, name);
         // Of several names the phone would choose another one, perhaps.
-        if (rows > 1) edit.withValue(Data.IS_SUPER_PRIMARY, 1);
+        if (rows.size() > 1) edit.withValue(Data.IS_SUPER_PRIMARY, 1);
         edits.add(edit.build());
     }
 
@@ -111,16 +106,33 @@ final class ContactEditor {
         List<DataRow> rows = data(id, Phone.CONTENT_ITEM_TYPE, Contacts.NUMBER_ORDER);
         String shown = rows.isEmpty() ? "" : rows.get(0).text;
         if (number.equals(shown)) return;
-        if (rows.isEmpty()) {
+        DataRow changed = writableRow(rows, shown, owners);
+        if (changed == null) {
             edits.add(insertNumber(number).withValue(Data.RAW_CONTACT_ID, owners.get(0)).build());
             return;
         }
-        demandOwner(owners, rows.get(0));
         if (number.isEmpty()) {
-            edits.add(ContentProviderOperation.newDelete(rows.get(0).uri()).build());
-        } else {
-            edits.add(update(rows.get(0)).withValue(Phone.NUMBER, number).build());
+            edits.add(ContentProviderOperation.newDelete(changed.uri()).build());
+            return;
         }
+        ContentProviderOperation.Builder edit = update(changed).withValue(Phone.NUMBER, number);
+        // Of several numbers the list would go on showing another one.
+        if (rows.size() > 1) edit.withValue(Data.IS_SUPER_PRIMARY, 1);
+        edits.add(edit.build());
+    }
+
+    /**
+     * The row with the text that the list shows, in a raw contact that may be changed: a messenger's account
+     * often has a copy of it that may not. Null when the contact has no row at all.
+     */
+    private static DataRow writableRow(List<DataRow> rows, String shown, List<Long> owners)
+            throws Refusal {
+        for (DataRow row : rows) {
+            if (row.text.equals(shown) && owners.contains(row.owner)) return row;
+        }
+        for (DataRow row : rows) if (owners.contains(row.owner)) return row;
+        if (!rows.isEmpty()) throw readOnly();
+        return null;
     }
 
     private static ContentProviderOperation.Builder insert(String type) {
@@ -185,36 +197,29 @@ final class ContactEditor {
         return found;
     }
 
-    /** The raw contacts of a contact. */
-    private static final class Owners {
-        final List<Long> writable = new ArrayList<Long>();
-        boolean readOnly;
-    }
-
-    private Owners ownersOf(long contact) throws Refusal {
-        Owners owners = new Owners();
-        Set<String> readOnlyTypes = readOnlyAccountTypes();
+    /**
+     * The raw contacts of a contact that may be changed; none when it belongs to read-only accounts alone, or
+     * is gone.
+     */
+    private List<Long> ownersOf(long contact, Set<String> readOnlyTypes) throws Refusal {
+        List<Long> writable = new ArrayList<Long>();
         String[] columns = {RawContacts._ID, RawContacts.ACCOUNT_TYPE};
         try (Cursor rows = Query.rows(resolver, RawContacts.CONTENT_URI, columns,
                 RawContacts.CONTACT_ID + "=? AND " + RawContacts.DELETED + "=0",
                 new String[] {Long.toString(contact)}, RawContacts._ID)) {
-            if (rows.getCount() == 0) throw gone();
             while (rows.moveToNext()) {
-                if (readOnlyTypes.contains(Query.text(rows, 1))) owners.readOnly = true;
-                else owners.writable.add(rows.getLong(0));
+                if (!readOnlyTypes.contains(Query.text(rows, 1))) writable.add(rows.getLong(0));
             }
         }
-        return owners;
-    }
-
-    private List<Long> writableOwners(long contact) throws Refusal {
-        List<Long> writable = ownersOf(contact).writable;
-        if (writable.isEmpty()) throw readOnly();
         return writable;
     }
 
-    private static void demandOwner(List<Long> owners, DataRow row) throws Refusal {
-        if (!owners.contains(row.owner)) throw readOnly();
+    /** Refuses when there is none. */
+    private List<Long> writableOwners(long contact, Set<String> readOnlyTypes) throws Refusal {
+        if (!exists(contact)) throw gone();
+        List<Long> writable = ownersOf(contact, readOnlyTypes);
+        if (writable.isEmpty()) throw readOnly();
+        return writable;
     }
 
     /** Accounts whose contacts are only shown on the phone say so of their synchronization. */
@@ -246,7 +251,7 @@ final class ContactEditor {
 
     private List<Long> allIds() throws Refusal {
         List<Long> ids = new ArrayList<Long>();
-        try (Cursor rows = Query.rows(resolver, ContactsContract.Contacts.CONTENT_URI,
+        try (Cursor rows = Query.rows(resolver, Contacts.LISTED,
                 new String[] {ContactsContract.Contacts._ID}, null, null, null)) {
             while (rows.moveToNext()) ids.add(rows.getLong(0));
         }

@@ -3,6 +3,7 @@ package velk.phone.android;
 import android.content.ContentResolver;
 import android.content.Context;
 import android.database.Cursor;
+import android.net.Uri;
 import android.provider.ContactsContract;
 import android.provider.ContactsContract.CommonDataKinds.Phone;
 import android.util.JsonWriter;
@@ -14,6 +15,10 @@ final class Contacts extends Kind<Contact> {
     /** Of several numbers the one comes first that the person made the default. */
     static final String NUMBER_ORDER =
             Phone.IS_SUPER_PRIMARY + " DESC, " + Phone.IS_PRIMARY + " DESC, " + Phone._ID;
+
+    /** The phone's own list: without a directory, contacts that it merely suggests would come, too. */
+    static final Uri LISTED = ContactsContract.Contacts.CONTENT_URI.buildUpon()
+            .appendQueryParameter(ContactsContract.DIRECTORY_PARAM_KEY, "0").build();
 
     private final ContentResolver resolver;
     private final Rights rights;
@@ -39,7 +44,7 @@ final class Contacts extends Kind<Contact> {
     @Override
     int count() throws Refusal {
         Rights.demand(readProblem());
-        return Query.count(resolver, ContactsContract.Contacts.CONTENT_URI, null, null);
+        return Query.count(resolver, LISTED, null, null);
     }
 
     @Override
@@ -49,7 +54,7 @@ final class Contacts extends Kind<Contact> {
         String[] columns = {
             ContactsContract.Contacts._ID, ContactsContract.Contacts.DISPLAY_NAME_PRIMARY
         };
-        try (Cursor rows = Query.rows(resolver, ContactsContract.Contacts.CONTENT_URI, columns,
+        try (Cursor rows = Query.rows(resolver, LISTED, columns,
                 null, null, ContactsContract.Contacts.SORT_KEY_PRIMARY)) {
             while (rows.moveToNext()) {
                 long id = rows.getLong(0);
@@ -68,6 +73,9 @@ final class Contacts extends Kind<Contact> {
     @Override
     long add(Item item) throws Refusal {
         Rights.demand(writeProblem());
+        if (item.name.isEmpty() && item.number.isEmpty()) {
+            throw new Refusal(Refusal.BAD_REQUEST, "A contact needs a name or a number.");
+        }
         return editor.add(item.name, item.number);
     }
 

@@ -18,7 +18,7 @@ final class Doorkeeper {
 
     private static final int MOST_AT_ONCE = 8;
     private static final int MOST_WAITING = 64;
-    private static final int MOST_FAILURES = 20;
+    private static final long LONGEST_PAUSE_MS = 5000;
 
     private final Door door;
     private final Wire wire;
@@ -56,16 +56,17 @@ final class Doorkeeper {
 
     private void acceptAll() {
         int failures = 0;
-        while (!stopped && failures < MOST_FAILURES) {
+        while (!stopped) {
             try {
                 receive(door.accept());
                 failures = 0;
             } catch (IOException failed) {
-                ++failures;
-                if (!stopped) SystemClock.sleep(100);
+                if (stopped) return;
+                if (failures == 0) Log.e(TAG, "A connection cannot be accepted", failed);
+                failures = Math.min(failures + 1, 6);
+                SystemClock.sleep(Math.min(LONGEST_PAUSE_MS, 100L << failures));
             }
         }
-        if (!stopped) Log.e(TAG, "No connection can be accepted any more");
     }
 
     private void receive(final Peer peer) {

@@ -132,8 +132,10 @@ class Media extends Kind<MediaFile> {
             if (!rows.moveToNext()) throw gone();
             Uri row = ContentUris.withAppendedId(uri, rows.getLong(0));
             if (new File(path).exists()) return row;
-            // The file went without the catalogue's knowledge.
-            resolver.delete(row, null, null);
+            // The file is gone but still listed. Where its folder cannot be read, it may be there all the
+            // same, on a card that was taken out for instance, and newer phones would delete it with the row.
+            File folder = new File(path).getParentFile();
+            if (folder != null && folder.canRead()) resolver.delete(row, null, null);
             throw gone();
         }
     }

@@ -9,6 +9,7 @@ import android.content.IntentFilter;
 import android.content.pm.PackageManager;
 import android.os.Build;
 import android.telephony.SmsManager;
+import android.telephony.TelephonyManager;
 import java.util.ArrayList;
 import java.util.UUID;
 import java.util.concurrent.CountDownLatch;
@@ -31,7 +32,7 @@ final class MessageSender {
         if (!context.getPackageManager().hasSystemFeature(PackageManager.FEATURE_TELEPHONY)) {
             throw new Refusal(Refusal.NOT_SENT, "This phone sends no messages.");
         }
-        SmsManager manager = SmsManager.getDefault();
+        SmsManager manager = manager();
         ArrayList<String> parts = manager.divideMessage(text);
         Report report = new Report(context, parts.size());
         try {
@@ -40,6 +41,19 @@ final class MessageSender {
         } finally {
             report.close();
         }
+    }
+
+    /** That of the SIM card which the person has chosen. Without a choice the phone would ask on its screen. */
+    private SmsManager manager() throws Refusal {
+        if (Build.VERSION.SDK_INT < 24) return SmsManager.getDefault();
+        int card = SmsManager.getDefaultSmsSubscriptionId();
+        if (card >= 0) return SmsManager.getSmsManagerForSubscriptionId(card);
+        TelephonyManager phone = (TelephonyManager) context.getSystemService(Context.TELEPHONY_SERVICE);
+        if (phone.getPhoneCount() > 1) {
+            throw new Refusal(Refusal.NOT_SENT,
+                    "Choose in the phone's settings which SIM card sends messages.");
+        }
+        return SmsManager.getDefault();
     }
 
     /** Gathers the phone's word on each part of one message. */

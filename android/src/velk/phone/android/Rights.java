@@ -4,6 +4,7 @@ import android.Manifest;
 import android.app.AppOpsManager;
 import android.content.Context;
 import android.content.pm.PackageManager;
+import android.os.Build;
 import android.os.Process;
 import java.lang.reflect.Method;
 
@@ -12,7 +13,14 @@ final class Rights {
     static final String[] CONTACTS = {
         Manifest.permission.READ_CONTACTS, Manifest.permission.WRITE_CONTACTS
     };
-    static final String[] MESSAGES = {Manifest.permission.READ_SMS, Manifest.permission.SEND_SMS};
+    /** The last Android of which some phones send no message without this permission, too. */
+    private static final boolean SENDING_NEEDS_PHONE_STATE = Build.VERSION.SDK_INT <= 26;
+    static final String[] MESSAGES = SENDING_NEEDS_PHONE_STATE
+            ? new String[] {
+                Manifest.permission.READ_SMS, Manifest.permission.SEND_SMS,
+                Manifest.permission.READ_PHONE_STATE
+            }
+            : new String[] {Manifest.permission.READ_SMS, Manifest.permission.SEND_SMS};
     static final String[] FILES = {
         Manifest.permission.READ_EXTERNAL_STORAGE, Manifest.permission.WRITE_EXTERNAL_STORAGE
     };
@@ -52,7 +60,9 @@ final class Rights {
     }
 
     String sendMessages() {
-        return sentence(Manifest.permission.SEND_SMS, "send messages");
+        String problem = sentence(Manifest.permission.SEND_SMS, "send messages");
+        if (problem != null || !SENDING_NEEDS_PHONE_STATE) return problem;
+        return sentence(Manifest.permission.READ_PHONE_STATE, "send messages");
     }
 
     /**

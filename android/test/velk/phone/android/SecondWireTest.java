@@ -205,6 +205,14 @@ public class SecondWireTest {
         phone.contacts.addRaw(1, "com.readonly", "Ann");
         phone.contacts.addRaw(2, null, "Bo");
         phone.contacts.addRaw(3, null, "Cy");
+        // A messenger's account often has a copy of what is the person's own.
+        long copy = phone.contacts.addRaw(4, "com.readonly", "Di");
+        long own = phone.contacts.addRaw(4, null, "Di");
+        phone.contacts.addNumber(copy, "44", false);
+        phone.contacts.addNumber(own, "44", false);
+        assertEquals("done", result("change", "contacts", item("id", "4", "name", "Do", "number", "45")));
+        assertEquals("45", list("contacts").get(3).getString("number"));
+        assertEquals("done", result("delete", "contacts", item("id", "4")));
         assertEquals("read-only", result("change", "contacts", item("id", "1", "name", "x")));
         assertEquals("read-only", result("delete", "contacts", item("id", "1")));
         assertEquals("done", result("delete", "contacts", item("id", "2")));
