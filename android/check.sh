@@ -14,7 +14,8 @@ fail() {
 
 expect() { [ "$2" = "$3" ] || fail "$1 is '$2' and not '$3'"; }
 
-permissions='READ_CONTACTS WRITE_CONTACTS READ_SMS WRITE_SMS SEND_SMS READ_PHONE_STATE READ_EXTERNAL_STORAGE WRITE_EXTERNAL_STORAGE FOREGROUND_SERVICE'
+permissions='READ_CONTACTS WRITE_CONTACTS READ_SMS WRITE_SMS SEND_SMS READ_PHONE_STATE maxSdkVersion=26'
+permissions+=' READ_EXTERNAL_STORAGE WRITE_EXTERNAL_STORAGE FOREGROUND_SERVICE'
 
 check_manifest() {
     local badging
@@ -25,7 +26,7 @@ check_manifest() {
     expect 'the page' "$(sed -n "s/^launchable-activity: name='\([^']*\)'.*/\1/p" <<<"$badging")" \
         velk.phone.android.PhoneConnActivity
     expect 'the list of permissions' \
-        "$(sed -n "s/^uses-permission: name='android\.permission\.\([A-Z_]*\)'.*/\1/p" <<<"$badging" | xargs)" \
+        "$(sed -n "s/^uses-permission: name='android\.permission\.\([A-Z_]*\)'\(.*\)/\1\2/p" <<<"$badging" | xargs)" \
         "$permissions"
     ! aapt dump xmltree "$package" AndroidManifest.xml | grep -q BOOT_COMPLETED || fail 'it starts at boot'
 }

@@ -30,7 +30,7 @@ final class AddedFiles extends Kind<Void> {
 
     @Override
     long add(Item item) throws Refusal {
-        Rights.demand(rights.readFiles());
+        Rights.demand(rights.readAllFiles());
         List<String> files = new ArrayList<String>();
         String name = lastPart(item.path());
         for (File folder : folders()) gather(new File(folder, name), DEEPEST, files);

@@ -25,8 +25,8 @@ public final class AgentService extends Service {
     private static final String FIRST = "velk.phone.android.wire1";
     private static final String SECOND = "velk.phone.android.wire2";
     /** The sockets of an agent that has just ended may take a moment to go. */
-    private static final long AGAIN_MS = 300;
-    private static final long LONGEST_AGAIN_MS = 10000;
+    private static final long FIRST_RETRY_MS = 300;
+    private static final long LONGEST_RETRY_MS = 10000;
 
     private final Handler handler = new Handler(Looper.getMainLooper());
     private final Runnable open = new Runnable() {
@@ -38,14 +38,16 @@ public final class AgentService extends Service {
     private final BroadcastReceiver opener = new BroadcastReceiver() {
         @Override
         public void onReceive(Context context, Intent intent) {
+            retryMs = FIRST_RETRY_MS;
             openDoors();
         }
     };
-    private int lastStart;
     private CableWatch cable;
     private Doorkeeper first;
     private Doorkeeper second;
-    private long again = AGAIN_MS;
+    private long retryMs = FIRST_RETRY_MS;
+    private boolean nameTaken;
+    private int lastStart;
 
     static void start(Context context) {
         Intent service = new Intent(context, AgentService.class);
@@ -56,7 +58,7 @@ public final class AgentService extends Service {
     @Override
     public void onCreate() {
         super.onCreate();
-        startForeground(ConnectedNotice.ID, ConnectedNotice.make(this));
+        showNotice();
         registerReceiver(opener, new IntentFilter(OPEN));
         cable = new CableWatch(this, new CableWatch.Quiet() {
             @Override
@@ -76,20 +78,24 @@ public final class AgentService extends Service {
     @Override
     public int onStartCommand(Intent intent, int flags, int id) {
         // Whoever starts a service in the foreground must show this each time.
-        startForeground(ConnectedNotice.ID, ConnectedNotice.make(this));
+        showNotice();
         lastStart = id;
         if (intent != null && STOP.equals(intent.getAction())) stop();
         return START_NOT_STICKY;
     }
 
-    /** Main thread. Does nothing when a newer start is on its way, which must not find the service gone. */
+    private void showNotice() {
+        startForeground(ConnectedNotice.ID, ConnectedNotice.make(this, nameTaken));
+    }
+
+    /** Ends the agent unless somebody has started it again meanwhile; on the main thread. */
     private void stop() {
         stopSelf(lastStart);
     }
 
     @Override
     public void onDestroy() {
-        handler.removeCallbacks(open);
+        handler.removeCallbacksAndMessages(null);
         unregisterReceiver(opener);
         cable.stop();
         closeDoors();
@@ -109,13 +115,20 @@ public final class AgentService extends Service {
             Phone phone = new Phone(getApplicationContext());
             if (first == null) first = keeper(FIRST, new FirstWire(phone, goodbye()));
             if (second == null) second = keeper(SECOND, new SecondWire(phone));
+            retryMs = FIRST_RETRY_MS;
+            setNameTaken(false);
         } catch (IOException taken) {
-            if (again == AGAIN_MS) Log.w(TAG, "A socket cannot be opened yet", taken);
-            handler.postDelayed(open, again);
-            again = Math.min(2 * again, LONGEST_AGAIN_MS);
-            return;
+            if (!nameTaken) Log.w(TAG, "A socket cannot be opened yet", taken);
+            setNameTaken(true);
+            handler.postDelayed(open, retryMs);
+            retryMs = Math.min(2 * retryMs, LONGEST_RETRY_MS);
         }
-        again = AGAIN_MS;
+    }
+
+    private void setNameTaken(boolean taken) {
+        if (taken == nameTaken) return;
+        nameTaken = taken;
+        showNotice();
     }
 
     private static Doorkeeper keeper(String name, Wire wire) throws IOException {

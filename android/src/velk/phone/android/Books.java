@@ -17,6 +17,11 @@ final class Books extends Media {
                 MediaStore.MediaColumns._ID, MediaStore.MediaColumns.DATA, MediaStore.MediaColumns.SIZE);
     }
 
+    @Override
+    String readProblem() {
+        return rights.readAllFiles();
+    }
+
     private static String endings() {
         StringBuilder any = new StringBuilder();
         for (String ending : ENDINGS) {

@@ -1,6 +1,5 @@
 package velk.phone.android;
 
-import android.content.BroadcastReceiver;
 import android.content.Context;
 import android.content.Intent;
 import android.content.IntentFilter;
@@ -11,7 +10,7 @@ import android.os.Looper;
  * Says when the computer has been away for a while: the cable is out and nobody has connected. All of it
  * runs on the main thread.
  */
-final class CableWatch extends BroadcastReceiver {
+final class CableWatch {
     /** The system's name of this broadcast; it stays with the phone, so that the state now is known too. */
     static final String USB_STATE = "android.hardware.usb.action.USB_STATE";
     static final String CONNECTED = "connected";
@@ -36,11 +35,10 @@ final class CableWatch extends BroadcastReceiver {
             look();
         }
     };
-    private boolean plugged;
     private boolean wasPlugged;
     private long unpluggedSince;
 
-    /** `away` runs once, when the computer has been away for a while. */
+    /** `away` runs when the computer has been away for a while, and again until stop(). */
     CableWatch(Context context, Quiet quiet, Runnable away) {
         this.context = context;
         this.quiet = quiet;
@@ -49,30 +47,27 @@ final class CableWatch extends BroadcastReceiver {
 
     void start() {
         unpluggedSince = now();
-        // Not the state of the power: a phone may stop charging while the cable goes on carrying data.
-        Intent state = context.registerReceiver(this, new IntentFilter(USB_STATE));
-        if (state != null) onReceive(context, state);
-        handler.postDelayed(look, LOOK_MS);
+        look();
     }
 
     void stop() {
         handler.removeCallbacks(look);
-        context.unregisterReceiver(this);
-    }
-
-    @Override
-    public void onReceive(Context where, Intent intent) {
-        boolean before = plugged;
-        plugged = intent.getBooleanExtra(CONNECTED, false);
-        wasPlugged |= plugged;
-        if (before && !plugged) unpluggedSince = now();
     }
 
     private void look() {
+        handler.postDelayed(look, LOOK_MS);
+        if (plugged()) {
+            wasPlugged = true;
+            unpluggedSince = now();
+            return;
+        }
         long patience = wasPlugged ? AFTER_CABLE_MS : NEVER_A_CABLE_MS;
-        boolean gone = !plugged && now() - unpluggedSince >= patience;
-        if (gone && quiet.milliseconds() >= patience) away.run();
-        else handler.postDelayed(look, LOOK_MS);
+        if (now() - unpluggedSince >= patience && quiet.milliseconds() >= patience) away.run();
+    }
+
+    private boolean plugged() {
+        Intent state = context.registerReceiver(null, new IntentFilter(USB_STATE));
+        return state != null && state.getBooleanExtra(CONNECTED, false);
     }
 
     private static long now() {

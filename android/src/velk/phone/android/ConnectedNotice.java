@@ -15,11 +15,13 @@ final class ConnectedNotice {
 
     private ConnectedNotice() {}
 
-    static Notification make(Context context) {
+    /** `nameTaken`: another application has taken the name of one of our sockets. */
+    static Notification make(Context context, boolean nameTaken) {
         Notification.Builder builder = builder(context)
                 .setSmallIcon(R.drawable.connected)
-                .setContentTitle(context.getString(R.string.connected))
-                .setContentText(context.getString(R.string.connected_detail))
+                .setContentTitle(context.getString(nameTaken ? R.string.unreachable : R.string.connected))
+                .setContentText(context.getString(
+                        nameTaken ? R.string.unreachable_detail : R.string.connected_detail))
                 .setOngoing(true)
                 .setContentIntent(PendingIntent.getActivity(
                         context, 0, new Intent(context, PhoneConnActivity.class), flags()));

@@ -33,6 +33,9 @@ final class ContactEditor {
 
     /** Adds a contact of the phone itself, of no account; gives its id. */
     long add(String name, String number) throws Refusal {
+        if (name.isEmpty() && number.isEmpty()) {
+            throw new Refusal(Refusal.BAD_REQUEST, "A contact needs a name or a number.");
+        }
         ArrayList<ContentProviderOperation> edits = new ArrayList<ContentProviderOperation>();
         // The phone would make one contact of two that have the same name.
         edits.add(ContentProviderOperation.newInsert(RawContacts.CONTENT_URI)
@@ -47,20 +50,30 @@ final class ContactEditor {
         if (!number.isEmpty()) {
             edits.add(insertNumber(number).withValueBackReference(Data.RAW_CONTACT_ID, 0).build());
         }
-        return contactOf(ContentUris.parseId(apply(edits)));
+        try {
+            return contactOf(ContentUris.parseId(apply(edits)));
+        } catch (OperationApplicationException failed) {
+            throw Refusal.of(failed);
+        }
     }
 
     /** Gives a contact another name and another number in place of the one that the list shows. */
     void change(long id, String name, String number) throws Refusal {
-        List<Long> owners = writableOwners(id, readOnlyAccountTypes());
+        List<Long> owners = writableOwners(id);
         ArrayList<ContentProviderOperation> edits = new ArrayList<ContentProviderOperation>();
         changeName(id, name, owners, edits);
         changeNumber(id, number, owners, edits);
-        if (!edits.isEmpty()) apply(edits);
+        if (edits.isEmpty()) return;
+        try {
+            apply(edits);
+        } catch (OperationApplicationException changed) {
+            throw new Refusal(Refusal.GONE, "The contact has just been changed or deleted on the phone.");
+        }
     }
 
     void delete(long id) throws Refusal {
-        writableOwners(id, readOnlyAccountTypes());
+        // Contacts that are partly writable can be deleted: messengers add read-only raw contacts to many.
+        writableOwners(id);
         resolver.delete(contact(id), null, null);
         if (exists(id)) throw readOnly();
     }
@@ -68,34 +81,52 @@ final class ContactEditor {
     /** Deletes all contacts but those of accounts that take no changes; gives how many went. */
     int deleteAll() throws Refusal {
         List<Long> ids = allIds();
+        try {
+            deleteEach(ids);
+        } catch (Refusal | OperationApplicationException | RuntimeException failed) {
+            Refusal refusal = Refusal.of(failed);
+            refusal.deleted = ids.size() - count();
+            throw refusal;
+        }
+        return ids.size() - count();
+    }
+
+    private void deleteEach(List<Long> ids) throws Refusal, OperationApplicationException {
         Set<String> readOnlyTypes = readOnlyAccountTypes();
         int refused = 0;
         ArrayList<ContentProviderOperation> edits = new ArrayList<ContentProviderOperation>();
         for (long id : ids) {
-            if (ownersOf(id, readOnlyTypes).isEmpty()) ++refused;
+            Owners owners = ownersOf(id, readOnlyTypes);
+            if (owners.all == 0) continue; // deleted on the phone in the meantime
+            if (owners.writable.isEmpty()) ++refused;
             else edits.add(ContentProviderOperation.newDelete(contact(id)).build());
             if (edits.size() == BATCH) apply(edits);
         }
         if (!edits.isEmpty()) apply(edits);
         if (refused > 0 && refused == ids.size()) throw readOnly();
-        return ids.size() - Query.count(resolver, Contacts.LISTED, null, null);
+    }
+
+    private int count() throws Refusal {
+        return Query.count(resolver, Contacts.LIST, null, null);
     }
 
     private void changeName(long id, String name, List<Long> owners,
             List<ContentProviderOperation> edits) throws Refusal {
-        String displayed = displayName(id);
-        if (name.equals(displayed)) return;
         List<DataRow> rows = data(id, StructuredName.CONTENT_ITEM_TYPE, Data._ID);
-        DataRow shown = writableRow(rows, displayed, owners);
-        if (shown == null) {
+        String shown = displayName(id);
+        if (name.equals(shown)) return;
+        if (rows.isEmpty()) {
             edits.add(insert(StructuredName.CONTENT_ITEM_TYPE)
                     .withValue(Data.RAW_CONTACT_ID, owners.get(0))
                     .withValue(StructuredName.DISPLAY_NAME, name).build());
             return;
         }
+        List<DataRow> writable = writable(rows, owners);
+        DataRow row = withText(writable, shown);
+        if (row == null && !writable.isEmpty()) row = writable.get(0);
+        if (row == null) throw readOnly();
         // The phone derives given and family name from this one.
-        ContentProviderOperation.Builder edit = update(shown)
-                .withValue(StructuredName.DISPLAY_NAME, name);
+        ContentProviderOperation.Builder edit = update(row).withValue(StructuredName.DISPLAY_NAME, name);
         // Of several names the phone would choose another one, perhaps.
         if (rows.size() > 1) edit.withValue(Data.IS_SUPER_PRIMARY, 1);
         edits.add(edit.build());
@@ -106,33 +137,21 @@ final class ContactEditor {
         List<DataRow> rows = data(id, Phone.CONTENT_ITEM_TYPE, Contacts.NUMBER_ORDER);
         String shown = rows.isEmpty() ? "" : rows.get(0).text;
         if (number.equals(shown)) return;
-        DataRow changed = writableRow(rows, shown, owners);
-        if (changed == null) {
+        if (rows.isEmpty()) {
             edits.add(insertNumber(number).withValue(Data.RAW_CONTACT_ID, owners.get(0)).build());
             return;
         }
+        // A writable row with another number is not touched: that number would be lost.
+        DataRow row = withText(writable(rows, owners), shown);
+        if (row == null) throw readOnly();
         if (number.isEmpty()) {
-            edits.add(ContentProviderOperation.newDelete(changed.uri()).build());
+            edits.add(ContentProviderOperation.newDelete(row.uri()).build());
             return;
         }
-        ContentProviderOperation.Builder edit = update(changed).withValue(Phone.NUMBER, number);
-        // Of several numbers the list would go on showing another one.
+        ContentProviderOperation.Builder edit = update(row).withValue(Phone.NUMBER, number);
+        // The list shows the default one of several numbers.
         if (rows.size() > 1) edit.withValue(Data.IS_SUPER_PRIMARY, 1);
         edits.add(edit.build());
-    }
-
-    /**
-     * The row with the text that the list shows, in a raw contact that may be changed: a messenger's account
-     * often has a copy of it that may not. Null when the contact has no row at all.
-     */
-    private static DataRow writableRow(List<DataRow> rows, String shown, List<Long> owners)
-            throws Refusal {
-        for (DataRow row : rows) {
-            if (row.text.equals(shown) && owners.contains(row.owner)) return row;
-        }
-        for (DataRow row : rows) if (owners.contains(row.owner)) return row;
-        if (!rows.isEmpty()) throw readOnly();
-        return null;
     }
 
     private static ContentProviderOperation.Builder insert(String type) {
@@ -150,10 +169,11 @@ final class ContactEditor {
     }
 
     /** Carries out and empties the list; gives the address of what the first edit made. */
-    private Uri apply(ArrayList<ContentProviderOperation> edits) throws Refusal {
+    private Uri apply(ArrayList<ContentProviderOperation> edits)
+            throws Refusal, OperationApplicationException {
         try {
             return resolver.applyBatch(ContactsContract.AUTHORITY, edits)[0].uri;
-        } catch (RemoteException | OperationApplicationException failed) {
+        } catch (RemoteException failed) {
             throw Refusal.of(failed);
         } finally {
             edits.clear();
@@ -197,29 +217,42 @@ final class ContactEditor {
         return found;
     }
 
-    /**
-     * The raw contacts of a contact that may be changed; none when it belongs to read-only accounts alone, or
-     * is gone.
-     */
-    private List<Long> ownersOf(long contact, Set<String> readOnlyTypes) throws Refusal {
-        List<Long> writable = new ArrayList<Long>();
+    private static List<DataRow> writable(List<DataRow> rows, List<Long> owners) {
+        List<DataRow> writable = new ArrayList<DataRow>();
+        for (DataRow row : rows) if (owners.contains(row.owner)) writable.add(row);
+        return writable;
+    }
+
+    private static DataRow withText(List<DataRow> rows, String text) {
+        for (DataRow row : rows) if (row.text.equals(text)) return row;
+        return null;
+    }
+
+    /** The raw contacts of a contact. */
+    private static final class Owners {
+        int all;
+        final List<Long> writable = new ArrayList<Long>();
+    }
+
+    private Owners ownersOf(long contact, Set<String> readOnlyTypes) throws Refusal {
+        Owners owners = new Owners();
         String[] columns = {RawContacts._ID, RawContacts.ACCOUNT_TYPE};
         try (Cursor rows = Query.rows(resolver, RawContacts.CONTENT_URI, columns,
                 RawContacts.CONTACT_ID + "=? AND " + RawContacts.DELETED + "=0",
                 new String[] {Long.toString(contact)}, RawContacts._ID)) {
+            owners.all = rows.getCount();
             while (rows.moveToNext()) {
-                if (!readOnlyTypes.contains(Query.text(rows, 1))) writable.add(rows.getLong(0));
+                if (!readOnlyTypes.contains(Query.text(rows, 1))) owners.writable.add(rows.getLong(0));
             }
         }
-        return writable;
+        return owners;
     }
 
-    /** Refuses when there is none. */
-    private List<Long> writableOwners(long contact, Set<String> readOnlyTypes) throws Refusal {
-        if (!exists(contact)) throw gone();
-        List<Long> writable = ownersOf(contact, readOnlyTypes);
-        if (writable.isEmpty()) throw readOnly();
-        return writable;
+    private List<Long> writableOwners(long contact) throws Refusal {
+        Owners owners = ownersOf(contact, readOnlyAccountTypes());
+        if (owners.all == 0) throw gone();
+        if (owners.writable.isEmpty()) throw readOnly();
+        return owners.writable;
     }
 
     /** Accounts whose contacts are only shown on the phone say so of their synchronization. */
@@ -251,7 +284,7 @@ final class ContactEditor {
 
     private List<Long> allIds() throws Refusal {
         List<Long> ids = new ArrayList<Long>();
-        try (Cursor rows = Query.rows(resolver, Contacts.LISTED,
+        try (Cursor rows = Query.rows(resolver, Contacts.LIST,
                 new String[] {ContactsContract.Contacts._ID}, null, null, null)) {
             while (rows.moveToNext()) ids.add(rows.getLong(0));
         }

@@ -16,9 +16,11 @@ final class Contacts extends Kind<Contact> {
     static final String NUMBER_ORDER =
             Phone.IS_SUPER_PRIMARY + " DESC, " + Phone.IS_PRIMARY + " DESC, " + Phone._ID;
 
-    /** The phone's own list: without a directory, contacts that it merely suggests would come, too. */
-    static final Uri LISTED = ContactsContract.Contacts.CONTENT_URI.buildUpon()
-            .appendQueryParameter(ContactsContract.DIRECTORY_PARAM_KEY, "0").build();
+    /** The contacts of the phone itself: neither those of a company's server nor suggested people. */
+    static final Uri LIST = ContactsContract.Contacts.CONTENT_URI.buildUpon()
+            .appendQueryParameter(ContactsContract.DIRECTORY_PARAM_KEY,
+                    Long.toString(ContactsContract.Directory.DEFAULT))
+            .build();
 
     private final ContentResolver resolver;
     private final Rights rights;
@@ -44,7 +46,7 @@ final class Contacts extends Kind<Contact> {
     @Override
     int count() throws Refusal {
         Rights.demand(readProblem());
-        return Query.count(resolver, LISTED, null, null);
+        return Query.count(resolver, LIST, null, null);
     }
 
     @Override
@@ -54,8 +56,8 @@ final class Contacts extends Kind<Contact> {
         String[] columns = {
             ContactsContract.Contacts._ID, ContactsContract.Contacts.DISPLAY_NAME_PRIMARY
         };
-        try (Cursor rows = Query.rows(resolver, LISTED, columns,
-                null, null, ContactsContract.Contacts.SORT_KEY_PRIMARY)) {
+        try (Cursor rows = Query.rows(resolver, LIST, columns, null, null,
+                ContactsContract.Contacts.SORT_KEY_PRIMARY)) {
             while (rows.moveToNext()) {
                 long id = rows.getLong(0);
                 sink.take(new Contact(id, Query.text(rows, 1), numbers.get(id, "")));
@@ -73,9 +75,6 @@ final class Contacts extends Kind<Contact> {
     @Override
     long add(Item item) throws Refusal {
         Rights.demand(writeProblem());
-        if (item.name.isEmpty() && item.number.isEmpty()) {
-            throw new Refusal(Refusal.BAD_REQUEST, "A contact needs a name or a number.");
-        }
         return editor.add(item.name, item.number);
     }
 

@@ -18,6 +18,7 @@ final class Doorkeeper {
 
     private static final int MOST_AT_ONCE = 8;
     private static final int MOST_WAITING = 64;
+    private static final long FIRST_PAUSE_MS = 100;
     private static final long LONGEST_PAUSE_MS = 5000;
 
     private final Door door;
@@ -55,16 +56,17 @@ final class Doorkeeper {
     }
 
     private void acceptAll() {
-        int failures = 0;
+        long pause = FIRST_PAUSE_MS;
         while (!stopped) {
             try {
                 receive(door.accept());
-                failures = 0;
+                pause = FIRST_PAUSE_MS;
             } catch (IOException failed) {
                 if (stopped) return;
-                if (failures == 0) Log.e(TAG, "A connection cannot be accepted", failed);
-                failures = Math.min(failures + 1, 6);
-                SystemClock.sleep(Math.min(LONGEST_PAUSE_MS, 100L << failures));
+                if (pause == FIRST_PAUSE_MS) Log.e(TAG, "A connection cannot be accepted", failed);
+                // The phone may have run out of memory or of files, and have some again later.
+                SystemClock.sleep(pause);
+                pause = Math.min(2 * pause, LONGEST_PAUSE_MS);
             }
         }
     }

@@ -46,7 +46,7 @@ abstract class Kind<T> {
         throw notPossible();
     }
 
-    /** How many were deleted. */
+    /** How many were deleted; a refusal says how many were before it. */
     int deleteAll() throws Refusal {
         throw notPossible();
     }

@@ -21,8 +21,8 @@ class Media extends Kind<MediaFile> {
     private static final String ALBUM = MediaStore.Audio.Media.ALBUM;
     private static final String RING = MediaStore.Audio.Media.IS_RINGTONE;
 
+    final Rights rights;
     private final ContentResolver resolver;
-    private final Rights rights;
     private final Uri uri;
     private final String[] columns;
     private final String where;
@@ -131,11 +131,15 @@ class Media extends Kind<MediaFile> {
             }
             if (!rows.moveToNext()) throw gone();
             Uri row = ContentUris.withAppendedId(uri, rows.getLong(0));
-            if (new File(path).exists()) return row;
-            // The file is gone but still listed. Where its folder cannot be read, it may be there all the
-            // same, on a card that was taken out for instance, and newer phones would delete it with the row.
-            File folder = new File(path).getParentFile();
-            if (folder != null && folder.canRead()) resolver.delete(row, null, null);
+            File file = new File(path);
+            if (file.exists()) return row;
+            File folder = file.getParentFile();
+            if (folder == null || folder.list() == null) {
+                // It may be on a card that is not in the phone now.
+                throw new Refusal(Refusal.FAILED, "The phone shows Velk no folder of this file.");
+            }
+            // The file went without the catalogue's knowledge.
+            resolver.delete(row, null, null);
             throw gone();
         }
     }

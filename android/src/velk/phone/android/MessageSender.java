@@ -9,6 +9,7 @@ import android.content.IntentFilter;
 import android.content.pm.PackageManager;
 import android.os.Build;
 import android.telephony.SmsManager;
+import android.telephony.SubscriptionManager;
 import android.telephony.TelephonyManager;
 import java.util.ArrayList;
 import java.util.UUID;
@@ -43,13 +44,15 @@ final class MessageSender {
         }
     }
 
-    /** That of the SIM card which the person has chosen. Without a choice the phone would ask on its screen. */
+    /** Of the SIM card that sends messages. */
+    @SuppressWarnings("deprecation") // the successors are missing on older phones
     private SmsManager manager() throws Refusal {
         if (Build.VERSION.SDK_INT < 24) return SmsManager.getDefault();
-        int card = SmsManager.getDefaultSmsSubscriptionId();
+        int card = SubscriptionManager.getDefaultSmsSubscriptionId();
         if (card >= 0) return SmsManager.getSmsManagerForSubscriptionId(card);
-        TelephonyManager phone = (TelephonyManager) context.getSystemService(Context.TELEPHONY_SERVICE);
-        if (phone.getPhoneCount() > 1) {
+        TelephonyManager telephony =
+                (TelephonyManager) context.getSystemService(Context.TELEPHONY_SERVICE);
+        if (telephony.getPhoneCount() > 1) {
             throw new Refusal(Refusal.NOT_SENT,
                     "Choose in the phone's settings which SIM card sends messages.");
         }

@@ -2,8 +2,10 @@ package velk.phone.android;
 
 import android.app.Activity;
 import android.content.Intent;
+import android.net.Uri;
 import android.os.Build;
 import android.os.Bundle;
+import android.provider.Settings;
 import android.view.Gravity;
 import android.view.View;
 import android.widget.Button;
@@ -32,7 +34,8 @@ public final class PhoneConnActivity extends Activity {
         ScrollView scroll = new ScrollView(this);
         scroll.addView(page);
         setContentView(scroll);
-        AgentService.start(this);
+        // A page that is only drawn again, as after a rotation, does not undo Stop.
+        if (saved == null) AgentService.start(this);
     }
 
     /** The computer opens the page again when the agent has ended and the page has not. */
@@ -51,19 +54,37 @@ public final class PhoneConnActivity extends Activity {
         addText(getString(R.string.what_it_may_do)).setTextSize(20);
         addRights();
         addText(getString(R.string.how_to_remove));
+        addButton(R.string.stop, new View.OnClickListener() {
+            @Override
+            public void onClick(View clicked) {
+                stopService(new Intent(PhoneConnActivity.this, AgentService.class));
+                finish();
+            }
+        });
+    }
+
+    /** After "don't ask again" the phone shows no question any more; its settings are left. */
+    @Override
+    public void onRequestPermissionsResult(int request, String[] permissions, int[] results) {
+        for (String permission : permissions) {
+            if (rights.has(permission) || shouldShowRequestPermissionRationale(permission)) continue;
+            startActivity(new Intent(Settings.ACTION_APPLICATION_DETAILS_SETTINGS,
+                    Uri.fromParts("package", getPackageName(), null)));
+            return;
+        }
     }
 
     private void addRights() {
         addRight(R.string.contacts_read, rights.readContacts());
         addRight(R.string.contacts_write, rights.changeContacts());
-        addButton(R.string.allow_contacts, Rights.CONTACTS);
+        addAsking(R.string.allow_contacts, Rights.CONTACTS);
         addRight(R.string.messages_read, rights.readMessages());
         String messages = rights.sendMessages();
         addRight(R.string.messages_write, messages != null ? messages : rights.deleteMessages());
-        addButton(R.string.allow_messages, Rights.MESSAGES);
+        addAsking(R.string.allow_messages, Rights.MESSAGES);
         addRight(R.string.files_read, rights.readFiles());
         addRight(R.string.files_write, rights.changeFiles());
-        addButton(R.string.allow_files, Rights.FILES);
+        addAsking(R.string.allow_files, Rights.FILES);
     }
 
     private void addRight(int what, String problem) {
@@ -72,16 +93,20 @@ public final class PhoneConnActivity extends Activity {
     }
 
     /** A button that asks for permissions, where one is missing and can be asked for. */
-    private void addButton(int label, final String[] permissions) {
+    private void addAsking(int label, final String[] permissions) {
         if (Build.VERSION.SDK_INT < 23 || rights.hasAll(permissions)) return;
-        Button button = new Button(this);
-        button.setText(label);
-        button.setOnClickListener(new View.OnClickListener() {
+        addButton(label, new View.OnClickListener() {
             @Override
             public void onClick(View clicked) {
                 if (Build.VERSION.SDK_INT >= 23) requestPermissions(permissions, 0);
             }
         });
+    }
+
+    private void addButton(int label, View.OnClickListener action) {
+        Button button = new Button(this);
+        button.setText(label);
+        button.setOnClickListener(action);
         page.addView(button, new LinearLayout.LayoutParams(
                 LinearLayout.LayoutParams.WRAP_CONTENT, LinearLayout.LayoutParams.WRAP_CONTENT));
     }

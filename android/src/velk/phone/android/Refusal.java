@@ -17,6 +17,8 @@ final class Refusal extends Exception {
     private static final long serialVersionUID = 1;
 
     final String code;
+    /** How many records were deleted before a deletion of all of them stopped. */
+    int deleted;
 
     Refusal(String code, String message) {
         super(message);

@@ -5,6 +5,7 @@ import android.app.AppOpsManager;
 import android.content.Context;
 import android.content.pm.PackageManager;
 import android.os.Build;
+import android.os.Environment;
 import android.os.Process;
 import java.lang.reflect.Method;
 
@@ -13,13 +14,10 @@ final class Rights {
     static final String[] CONTACTS = {
         Manifest.permission.READ_CONTACTS, Manifest.permission.WRITE_CONTACTS
     };
-    /** The last Android of which some phones send no message without this permission, too. */
     private static final boolean SENDING_NEEDS_PHONE_STATE = Build.VERSION.SDK_INT <= 26;
     static final String[] MESSAGES = SENDING_NEEDS_PHONE_STATE
-            ? new String[] {
-                Manifest.permission.READ_SMS, Manifest.permission.SEND_SMS,
-                Manifest.permission.READ_PHONE_STATE
-            }
+            ? new String[] {Manifest.permission.READ_SMS, Manifest.permission.SEND_SMS,
+                Manifest.permission.READ_PHONE_STATE}
             : new String[] {Manifest.permission.READ_SMS, Manifest.permission.SEND_SMS};
     static final String[] FILES = {
         Manifest.permission.READ_EXTERNAL_STORAGE, Manifest.permission.WRITE_EXTERNAL_STORAGE
@@ -62,7 +60,8 @@ final class Rights {
     String sendMessages() {
         String problem = sentence(Manifest.permission.SEND_SMS, "send messages");
         if (problem != null || !SENDING_NEEDS_PHONE_STATE) return problem;
-        return sentence(Manifest.permission.READ_PHONE_STATE, "send messages");
+        return sentence(Manifest.permission.READ_PHONE_STATE,
+                "read the phone's state, without which it sends no messages");
     }
 
     /**
@@ -79,8 +78,21 @@ final class Rights {
         return sentence(Manifest.permission.READ_EXTERNAL_STORAGE, "find files");
     }
 
+    /** Files of any type; the phone may show an application its media alone. */
+    String readAllFiles() {
+        String problem = readFiles();
+        return problem != null ? problem : onlyMedia();
+    }
+
     String changeFiles() {
-        return sentence(Manifest.permission.WRITE_EXTERNAL_STORAGE, "change files");
+        String problem = sentence(Manifest.permission.WRITE_EXTERNAL_STORAGE, "change files");
+        return problem != null ? problem : onlyMedia();
+    }
+
+    /** The older storage model is kept or refused when the application is installed. */
+    private static String onlyMedia() {
+        if (Build.VERSION.SDK_INT < 29 || Environment.isExternalStorageLegacy()) return null;
+        return "The phone shows Velk its media but not its files. Install Velk's agent again.";
     }
 
     /** Refuses with `problem` when there is one. */

@@ -162,6 +162,7 @@ final class SecondWire implements Wire {
             count = kind.deleteAll();
         } catch (Refusal | RuntimeException refused) {
             refusal = Refusal.of(refused);
+            count = refusal.deleted;
         }
         beginResult(0, refusal, reply).name("count").value(count);
         reply.finish();

@@ -12,6 +12,11 @@ import android.provider.ContactsContract.RawContacts;
 final class FakeContacts extends TableProvider {
     private static final String NAME = "'" + StructuredName.CONTENT_ITEM_TYPE + "'";
 
+    /** Every row to update has just gone. */
+    boolean frozen;
+    /** A contact that cannot be deleted. */
+    long broken;
+
     FakeContacts() {
         database.execSQL("CREATE TABLE raw_contacts (_id INTEGER PRIMARY KEY, contact_id INTEGER,"
                 + " account_type TEXT, account_name TEXT, aggregation_mode INTEGER, deleted INTEGER DEFAULT 0)");
@@ -61,8 +66,19 @@ final class FakeContacts extends TableProvider {
     }
 
     @Override
+    public int update(Uri uri, ContentValues values, String selection, String[] arguments) {
+        if (frozen) return 0;
+        if (values.containsKey("is_super_primary")) {
+            database.execSQL("UPDATE data SET is_super_primary = 0 WHERE mimetype ="
+                    + " (SELECT mimetype FROM data WHERE _id = " + ContentUris.parseId(uri) + ")");
+        }
+        return super.update(uri, values, selection, arguments);
+    }
+
+    @Override
     public int delete(Uri uri, String selection, String[] arguments) {
         if (!uri.getPath().startsWith("/contacts/")) return super.delete(uri, selection, arguments);
+        if (ContentUris.parseId(uri) == broken) throw new IllegalStateException("disk full");
         ContentValues values = new ContentValues();
         values.put("deleted", 1);
         return database.update("raw_contacts", values, "contact_id=" + ContentUris.parseId(uri), null);

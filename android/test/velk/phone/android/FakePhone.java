@@ -34,6 +34,7 @@ import org.robolectric.RuntimeEnvironment;
 import org.robolectric.annotation.Implementation;
 import org.robolectric.annotation.Implements;
 import org.robolectric.shadows.ShadowContentResolver;
+import org.robolectric.shadows.ShadowEnvironment;
 import org.robolectric.shadows.ShadowSmsManager;
 
 /** The framework of this computer with a phone's databases in it, and all rights given. */
@@ -57,6 +58,7 @@ final class FakePhone {
         shadowOf(application).grantPermissions(Rights.MESSAGES);
         shadowOf(application).grantPermissions(Rights.FILES);
         letWriteMessages(true);
+        ShadowEnvironment.setIsExternalStorageLegacy(true);
         ShadowContentResolver.setSyncAdapterTypes(new SyncAdapterType[0]);
         for (String feature : new String[] {"android.hardware.telephony", "android.hardware.telephony.messaging"}) {
             shadowOf(application.getPackageManager()).setSystemFeature(feature, true);

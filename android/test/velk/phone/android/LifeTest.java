@@ -185,6 +185,7 @@ public class LifeTest {
         assertFalse(shadowOf(service.get()).isStoppedBySelf());
         service.get().onStartCommand(shadowOf(notice.actions[0].actionIntent).getSavedIntent(), 0, 2);
         assertTrue(shadowOf(service.get()).isStoppedBySelf());
+        assertEquals("not when it was started again meanwhile", 2, shadowOf(service.get()).getStopSelfId());
         service.destroy();
     }
 
@@ -197,13 +198,19 @@ public class LifeTest {
         assertEquals(AgentService.class.getName(), nextStarted());
         controller.newIntent(new Intent());
         assertEquals("opened again", AgentService.class.getName(), nextStarted());
+        controller.recreate();
+        page = controller.get();
+        assertNull("rotated", shadowOf(RuntimeEnvironment.getApplication()).getNextStartedService());
         assertNull(button(page.findViewById(android.R.id.content), "Allow contacts"));
         Button messages = button(page.findViewById(android.R.id.content), "Allow messages");
         assertEquals(Build.VERSION.SDK_INT >= 23, messages != null);
         if (messages == null) return;
         messages.performClick();
-        assertEquals("android.permission.READ_SMS",
-                shadowOf(page).getLastRequestedPermission().requestedPermissions[0]);
+        String[] asked = shadowOf(page).getLastRequestedPermission().requestedPermissions;
+        assertEquals("android.permission.READ_SMS", asked[0]);
+        page.onRequestPermissionsResult(0, asked, new int[asked.length]);
+        assertEquals("not asked any more", android.provider.Settings.ACTION_APPLICATION_DETAILS_SETTINGS,
+                shadowOf(page).getNextStartedActivity().getAction());
     }
 
     private static String nextStarted() {

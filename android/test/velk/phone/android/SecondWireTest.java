@@ -9,6 +9,7 @@ import android.content.ContentResolver;
 import android.content.SyncAdapterType;
 import android.provider.ContactsContract;
 import android.provider.MediaStore;
+import android.telephony.TelephonyManager;
 import java.io.File;
 import java.nio.charset.StandardCharsets;
 import java.util.List;
@@ -21,6 +22,8 @@ import org.junit.runner.RunWith;
 import org.robolectric.RobolectricTestRunner;
 import org.robolectric.annotation.Config;
 import org.robolectric.shadows.ShadowContentResolver;
+import org.robolectric.shadows.ShadowEnvironment;
+import org.robolectric.shadows.ShadowSubscriptionManager;
 
 @RunWith(RobolectricTestRunner.class)
 @Config(sdk = {19, 28, 34}, shadows = {FakePhone.Scanner.class, FakePhone.Sender.class})
@@ -129,6 +132,12 @@ public class SecondWireTest {
         assertTrue(reply.get(2).getBoolean("read"));
         assertFalse(reply.get(2).getBoolean("write"));
         assertTrue(reply.get(2).getString("message").contains("WRITE_SMS"));
+        if (android.os.Build.VERSION.SDK_INT < 29) return;
+        ShadowEnvironment.setIsExternalStorageLegacy(false);
+        reply = phone.ask("{\"op\":\"hello\"}");
+        assertTrue("photos", reply.get(5).getBoolean("read"));
+        assertFalse("photos", reply.get(5).getBoolean("write"));
+        assertFalse("books", reply.get(7).getBoolean("read"));
     }
 
     @Test
@@ -194,7 +203,10 @@ public class SecondWireTest {
                 "SELECT 1 FROM data WHERE data1 = 'a note'", null)) {
             assertEquals(1, notes.getCount());
         }
+        phone.contacts.frozen = true;
+        assertEquals("gone", result("change", "contacts", item("id", "7", "name", "Bo", "number", "1")));
         assertEquals("gone", result("change", "contacts", item("id", "8", "name", "x", "number", "")));
+        assertEquals("bad-request", result("add", "contacts", item("text", "x")));
         assertEquals("bad-request", result("change", "contacts", item("id", "x", "name", "x")));
     }
 
@@ -205,22 +217,28 @@ public class SecondWireTest {
         phone.contacts.addRaw(1, "com.readonly", "Ann");
         phone.contacts.addRaw(2, null, "Bo");
         phone.contacts.addRaw(3, null, "Cy");
-        // A messenger's account often has a copy of what is the person's own.
-        long copy = phone.contacts.addRaw(4, "com.readonly", "Di");
-        long own = phone.contacts.addRaw(4, null, "Di");
-        phone.contacts.addNumber(copy, "44", false);
-        phone.contacts.addNumber(own, "44", false);
-        assertEquals("done", result("change", "contacts", item("id", "4", "name", "Do", "number", "45")));
-        assertEquals("45", list("contacts").get(3).getString("number"));
-        assertEquals("done", result("delete", "contacts", item("id", "4")));
+        phone.contacts.addRaw(3, "com.readonly", "Cy");
+        long messenger = phone.contacts.addRaw(4, "com.readonly", "Di");
+        phone.contacts.addNumber(messenger, "1", false);
+        phone.contacts.addNumber(messenger, "4", false);
+        phone.contacts.addNumber(phone.contacts.addRaw(4, null, "Di"), "1", false);
         assertEquals("read-only", result("change", "contacts", item("id", "1", "name", "x")));
         assertEquals("read-only", result("delete", "contacts", item("id", "1")));
         assertEquals("done", result("delete", "contacts", item("id", "2")));
         assertEquals("gone", result("delete", "contacts", item("id", "2")));
+        assertEquals("done", result("change", "contacts", item("id", "4", "name", "Flo", "number", "5")));
+        assertEquals("Flo", list("contacts").get(2).getString("name"));
+        assertEquals("5", list("contacts").get(2).getString("number"));
+        assertEquals("partly writable", "done", result("delete", "contacts", item("id", "4")));
         List<JSONObject> reply = phone.ask("{\"op\":\"delete\",\"kind\":\"contacts\",\"all\":true}");
         assertEquals(1, reply.get(0).getInt("count"));
         assertEquals("Ann", list("contacts").get(0).getString("name"));
         assertEquals(1, list("contacts").size());
+        for (int i = 0; i < 60; ++i) phone.contacts.addRaw(100 + i, null, "Gus");
+        phone.contacts.broken = 155;
+        reply = phone.ask("{\"op\":\"delete\",\"kind\":\"contacts\",\"all\":true}");
+        assertFalse(reply.get(0).getBoolean("done"));
+        assertEquals(50, reply.get(0).getInt("count"));
     }
 
     @Test
@@ -264,6 +282,16 @@ public class SecondWireTest {
         FakePhone.radio = android.telephony.SmsManager.RESULT_ERROR_RADIO_OFF;
         assertEquals("not-sent", result("send", "messages", item("number", "1", "text", "x")));
         assertEquals("bad-request", result("send", "messages", item("number", "", "text", "x")));
+        FakePhone.radio = android.app.Activity.RESULT_OK;
+        if (android.os.Build.VERSION.SDK_INT <= 26) {
+            shadowOf(phone.application).denyPermissions("android.permission.READ_PHONE_STATE");
+            assertEquals("permission", result("send", "messages", item("number", "1", "text", "x")));
+        } else {
+            shadowOf((TelephonyManager) phone.application.getSystemService("phone")).setPhoneCount(2);
+            assertEquals("no SIM card chosen", "not-sent", result("send", "messages", item("number", "1", "text", "x")));
+            ShadowSubscriptionManager.setDefaultSmsSubscriptionId(1);
+            assertEquals("done", result("send", "messages", item("number", "1", "text", "x")));
+        }
     }
 
     @Test
@@ -288,6 +316,7 @@ public class SecondWireTest {
         android.net.Uri images = MediaStore.Images.Media.EXTERNAL_CONTENT_URI;
         phone.media.add(images, 70000, file.getPath(), 1, null);
         phone.media.add(images, 70001, file.getPath() + ".not", 1, null);
+        phone.media.add(images, 70002, "/no card/one.jpg", 1, null);
         String path = file.getPath();
         assertEquals("gone", result("delete", "photos", item("id", "4464", "path", path)));
         assertEquals("gone", result("delete", "photos", item("id", "70000", "path", path + "x")));
@@ -296,7 +325,8 @@ public class SecondWireTest {
         assertEquals("done", result("delete", "photos", item("id", "70000", "path", path)));
         assertFalse(file.exists());
         assertEquals("gone", result("delete", "photos", item("id", "70001", "path", path + ".not")));
-        assertEquals(0, list("photos").size());
+        assertEquals("failed", result("delete", "photos", item("id", "70002", "path", "/no card/one.jpg")));
+        assertEquals(1, list("photos").size());
     }
 
     @Test
