@@ -15,7 +15,7 @@ final class AddedFiles extends Kind<Void> {
     /** Where the computer puts what it copies. */
     private static final String[] FOLDERS = {"music", "movies", "photo", "book"};
 
-    private static final int PATIENCE_SECONDS = 60;
+    private static final int TIMEOUT_SECONDS = 60;
     private static final int MOST_FILES = 5000;
     private static final int DEEPEST = 16;
 
@@ -29,13 +29,14 @@ final class AddedFiles extends Kind<Void> {
     }
 
     @Override
-    long add(Item item) throws Refusal {
+    long add(Item item) throws RequestError {
         Rights.demand(rights.readAllFiles());
         List<String> files = new ArrayList<String>();
         String name = lastPart(item.path());
         for (File folder : folders()) gather(new File(folder, name), DEEPEST, files);
         if (files.isEmpty()) {
-            throw new Refusal(Refusal.GONE, "There is no file of this name where files are copied to.");
+            throw new RequestError(RequestError.GONE,
+                    "There is no file of this name where files are copied to.");
         }
         scan(files);
         return 0;
@@ -45,9 +46,9 @@ final class AddedFiles extends Kind<Void> {
      * The folders as the phone writes them: to its storage Music and music are one folder, to its catalogue
      * they are two.
      */
-    private static List<File> folders() throws Refusal {
+    private static List<File> folders() throws RequestError {
         File[] all = Environment.getExternalStorageDirectory().listFiles();
-        if (all == null) throw new Refusal(Refusal.FAILED, "The phone's storage cannot be read.");
+        if (all == null) throw new RequestError(RequestError.FAILED, "The phone's storage cannot be read.");
         List<File> folders = new ArrayList<File>();
         for (File one : all) {
             for (String name : FOLDERS) if (name.equalsIgnoreCase(one.getName())) folders.add(one);
@@ -55,12 +56,12 @@ final class AddedFiles extends Kind<Void> {
         return folders;
     }
 
-    private static String lastPart(String path) throws Refusal {
+    private static String lastPart(String path) throws RequestError {
         int end = path.length();
         while (end > 0 && path.charAt(end - 1) == '/') --end;
         String name = path.substring(path.lastIndexOf('/', end - 1) + 1, end);
         if (name.isEmpty() || name.equals(".") || name.equals("..") || name.indexOf('\0') >= 0) {
-            throw new Refusal(Refusal.BAD_REQUEST, "The path has no file name.");
+            throw new RequestError(RequestError.BAD_REQUEST, "The path has no file name.");
         }
         return name;
     }
@@ -69,12 +70,12 @@ final class AddedFiles extends Kind<Void> {
     private static void gather(File file, int depth, List<String> files) {
         if (files.size() >= MOST_FILES || depth == 0) return;
         if (file.isFile()) files.add(file.getPath());
-        File[] inside = file.listFiles();
-        if (inside == null) return;
-        for (File one : inside) gather(one, depth - 1, files);
+        File[] children = file.listFiles();
+        if (children == null) return;
+        for (File one : children) gather(one, depth - 1, files);
     }
 
-    private void scan(List<String> files) throws Refusal {
+    private void scan(List<String> files) throws RequestError {
         final CountDownLatch missing = new CountDownLatch(files.size());
         MediaScannerConnection.scanFile(context, files.toArray(new String[0]), null,
                 new MediaScannerConnection.OnScanCompletedListener() {
@@ -84,10 +85,11 @@ final class AddedFiles extends Kind<Void> {
                     }
                 });
         try {
-            if (missing.await(PATIENCE_SECONDS, TimeUnit.SECONDS)) return;
+            if (missing.await(TIMEOUT_SECONDS, TimeUnit.SECONDS)) return;
         } catch (InterruptedException stopped) {
             // As good as too late.
         }
-        throw new Refusal(Refusal.FAILED, "The phone has not looked at the file yet; it may later.");
+        throw new RequestError(RequestError.FAILED,
+                "The phone has not looked at the file yet; it may later.");
     }
 }

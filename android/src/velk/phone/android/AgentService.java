@@ -32,19 +32,19 @@ public final class AgentService extends Service {
     private final Runnable open = new Runnable() {
         @Override
         public void run() {
-            openDoors();
+            openSockets();
         }
     };
     private final BroadcastReceiver opener = new BroadcastReceiver() {
         @Override
         public void onReceive(Context context, Intent intent) {
             retryMs = FIRST_RETRY_MS;
-            openDoors();
+            openSockets();
         }
     };
     private CableWatch cable;
-    private Doorkeeper first;
-    private Doorkeeper second;
+    private ConnectionServer first;
+    private ConnectionServer second;
     private long retryMs = FIRST_RETRY_MS;
     private boolean nameTaken;
     private int lastStart;
@@ -58,12 +58,12 @@ public final class AgentService extends Service {
     @Override
     public void onCreate() {
         super.onCreate();
-        showNotice();
+        showNotification();
         registerReceiver(opener, new IntentFilter(OPEN));
-        cable = new CableWatch(this, new CableWatch.Quiet() {
+        cable = new CableWatch(this, new CableWatch.IdleTime() {
             @Override
             public long milliseconds() {
-                return quietFor();
+                return idleFor();
             }
         }, new Runnable() {
             @Override
@@ -72,20 +72,20 @@ public final class AgentService extends Service {
             }
         });
         cable.start();
-        openDoors();
+        openSockets();
     }
 
     @Override
     public int onStartCommand(Intent intent, int flags, int id) {
         // Whoever starts a service in the foreground must show this each time.
-        showNotice();
+        showNotification();
         lastStart = id;
         if (intent != null && STOP.equals(intent.getAction())) stop();
         return START_NOT_STICKY;
     }
 
-    private void showNotice() {
-        startForeground(ConnectedNotice.ID, ConnectedNotice.make(this, nameTaken));
+    private void showNotification() {
+        startForeground(ServiceNotification.ID, ServiceNotification.make(this, nameTaken));
     }
 
     /** Ends the agent unless somebody has started it again meanwhile; on the main thread. */
@@ -98,7 +98,7 @@ public final class AgentService extends Service {
         handler.removeCallbacksAndMessages(null);
         unregisterReceiver(opener);
         cable.stop();
-        closeDoors();
+        closeSockets();
         stopForeground(true);
         super.onDestroy();
     }
@@ -109,12 +109,12 @@ public final class AgentService extends Service {
     }
 
     /** Opens what is not open yet. */
-    private void openDoors() {
+    private void openSockets() {
         handler.removeCallbacks(open);
         try {
             Phone phone = new Phone(getApplicationContext());
-            if (first == null) first = keeper(FIRST, new FirstWire(phone, goodbye()));
-            if (second == null) second = keeper(SECOND, new SecondWire(phone));
+            if (first == null) first = server(FIRST, new FirstWire(phone, goodbye()));
+            if (second == null) second = server(SECOND, new SecondWire(phone));
             retryMs = FIRST_RETRY_MS;
             setNameTaken(false);
         } catch (IOException taken) {
@@ -128,11 +128,11 @@ public final class AgentService extends Service {
     private void setNameTaken(boolean taken) {
         if (taken == nameTaken) return;
         nameTaken = taken;
-        showNotice();
+        showNotification();
     }
 
-    private static Doorkeeper keeper(String name, Wire wire) throws IOException {
-        return new Doorkeeper(new LocalDoor(name), wire, name);
+    private static ConnectionServer server(String name, Wire wire) throws IOException {
+        return new ConnectionServer(new LocalListener(name), wire, name);
     }
 
     private Runnable goodbye() {
@@ -149,23 +149,23 @@ public final class AgentService extends Service {
         };
     }
 
-    private void closeDoors() {
-        final Doorkeeper[] open = {first, second};
+    private void closeSockets() {
+        final ConnectionServer[] open = {first, second};
         first = null;
         second = null;
         // Closing connects to the sockets once more, which the main thread should not wait for.
         new Thread(new Runnable() {
             @Override
             public void run() {
-                for (Doorkeeper one : open) if (one != null) one.stop();
+                for (ConnectionServer one : open) if (one != null) one.stop();
             }
         }, "velk closing").start();
     }
 
-    private long quietFor() {
-        long quiet = Long.MAX_VALUE;
-        if (first != null) quiet = Math.min(quiet, first.quietFor());
-        if (second != null) quiet = Math.min(quiet, second.quietFor());
-        return quiet;
+    private long idleFor() {
+        long idle = Long.MAX_VALUE;
+        if (first != null) idle = Math.min(idle, first.idleFor());
+        if (second != null) idle = Math.min(idle, second.idleFor());
+        return idle;
     }
 }

@@ -31,10 +31,10 @@ final class Applications extends Kind<Application> {
     }
 
     @Override
-    void each(Sink<Application> sink) throws IOException, Refusal {
+    void each(RowHandler<Application> handler) throws IOException, RequestError {
         SimpleDateFormat day = new SimpleDateFormat("yyyy-MM-dd", Locale.US);
         for (PackageInfo info : packages.getInstalledPackages(0)) {
-            if (isListed(info)) sink.take(read(info, day));
+            if (isListed(info)) handler.handle(read(info, day));
         }
     }
 

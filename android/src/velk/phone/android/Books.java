@@ -38,7 +38,7 @@ final class Books extends Media {
     }
 
     @Override
-    void delete(Item item) throws Refusal {
+    void delete(Item item) throws RequestError {
         deleteByPath(item.path());
     }
 }

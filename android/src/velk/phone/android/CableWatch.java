@@ -21,12 +21,12 @@ final class CableWatch {
     private static final long LOOK_MS = 10000;
 
     /** How long nobody has been connected. */
-    interface Quiet {
+    interface IdleTime {
         long milliseconds();
     }
 
     private final Context context;
-    private final Quiet quiet;
+    private final IdleTime idle;
     private final Runnable away;
     private final Handler handler = new Handler(Looper.getMainLooper());
     private final Runnable look = new Runnable() {
@@ -39,9 +39,9 @@ final class CableWatch {
     private long unpluggedSince;
 
     /** `away` runs when the computer has been away for a while, and again until stop(). */
-    CableWatch(Context context, Quiet quiet, Runnable away) {
+    CableWatch(Context context, IdleTime idle, Runnable away) {
         this.context = context;
-        this.quiet = quiet;
+        this.idle = idle;
         this.away = away;
     }
 
@@ -61,8 +61,8 @@ final class CableWatch {
             unpluggedSince = now();
             return;
         }
-        long patience = wasPlugged ? AFTER_CABLE_MS : NEVER_A_CABLE_MS;
-        if (now() - unpluggedSince >= patience && quiet.milliseconds() >= patience) away.run();
+        long timeout = wasPlugged ? AFTER_CABLE_MS : NEVER_A_CABLE_MS;
+        if (now() - unpluggedSince >= timeout && idle.milliseconds() >= timeout) away.run();
     }
 
     private boolean plugged() {

@@ -32,9 +32,9 @@ final class ContactEditor {
     }
 
     /** Adds a contact of the phone itself, of no account; gives its id. */
-    long add(String name, String number) throws Refusal {
+    long add(String name, String number) throws RequestError {
         if (name.isEmpty() && number.isEmpty()) {
-            throw new Refusal(Refusal.BAD_REQUEST, "A contact needs a name or a number.");
+            throw new RequestError(RequestError.BAD_REQUEST, "A contact needs a name or a number.");
         }
         ArrayList<ContentProviderOperation> edits = new ArrayList<ContentProviderOperation>();
         // The phone would make one contact of two that have the same name.
@@ -53,12 +53,12 @@ final class ContactEditor {
         try {
             return contactOf(ContentUris.parseId(apply(edits)));
         } catch (OperationApplicationException failed) {
-            throw Refusal.of(failed);
+            throw RequestError.of(failed);
         }
     }
 
     /** Gives a contact another name and another number in place of the one that the list shows. */
-    void change(long id, String name, String number) throws Refusal {
+    void change(long id, String name, String number) throws RequestError {
         List<Long> owners = writableOwners(id);
         ArrayList<ContentProviderOperation> edits = new ArrayList<ContentProviderOperation>();
         changeName(id, name, owners, edits);
@@ -67,11 +67,12 @@ final class ContactEditor {
         try {
             apply(edits);
         } catch (OperationApplicationException changed) {
-            throw new Refusal(Refusal.GONE, "The contact has just been changed or deleted on the phone.");
+            throw new RequestError(RequestError.GONE,
+                    "The contact has just been changed or deleted on the phone.");
         }
     }
 
-    void delete(long id) throws Refusal {
+    void delete(long id) throws RequestError {
         // Contacts that are partly writable can be deleted: messengers add read-only raw contacts to many.
         writableOwners(id);
         resolver.delete(contact(id), null, null);
@@ -79,19 +80,19 @@ final class ContactEditor {
     }
 
     /** Deletes all contacts but those of accounts that take no changes; gives how many went. */
-    int deleteAll() throws Refusal {
+    int deleteAll() throws RequestError {
         List<Long> ids = allIds();
         try {
             deleteEach(ids);
-        } catch (Refusal | OperationApplicationException | RuntimeException failed) {
-            Refusal refusal = Refusal.of(failed);
-            refusal.deleted = ids.size() - count();
-            throw refusal;
+        } catch (RequestError | OperationApplicationException | RuntimeException failed) {
+            RequestError error = RequestError.of(failed);
+            error.deleted = ids.size() - count();
+            throw error;
         }
         return ids.size() - count();
     }
 
-    private void deleteEach(List<Long> ids) throws Refusal, OperationApplicationException {
+    private void deleteEach(List<Long> ids) throws RequestError, OperationApplicationException {
         Set<String> readOnlyTypes = readOnlyAccountTypes();
         int refused = 0;
         ArrayList<ContentProviderOperation> edits = new ArrayList<ContentProviderOperation>();
@@ -106,12 +107,12 @@ final class ContactEditor {
         if (refused > 0 && refused == ids.size()) throw readOnly();
     }
 
-    private int count() throws Refusal {
+    private int count() throws RequestError {
         return Query.count(resolver, Contacts.LIST, null, null);
     }
 
     private void changeName(long id, String name, List<Long> owners,
-            List<ContentProviderOperation> edits) throws Refusal {
+            List<ContentProviderOperation> edits) throws RequestError {
         List<DataRow> rows = data(id, StructuredName.CONTENT_ITEM_TYPE, Data._ID);
         String shown = displayName(id);
         if (name.equals(shown)) return;
@@ -133,7 +134,7 @@ final class ContactEditor {
     }
 
     private void changeNumber(long id, String number, List<Long> owners,
-            List<ContentProviderOperation> edits) throws Refusal {
+            List<ContentProviderOperation> edits) throws RequestError {
         List<DataRow> rows = data(id, Phone.CONTENT_ITEM_TYPE, Contacts.NUMBER_ORDER);
         String shown = rows.isEmpty() ? "" : rows.get(0).text;
         if (number.equals(shown)) return;
@@ -170,23 +171,23 @@ final class ContactEditor {
 
     /** Carries out and empties the list; gives the address of what the first edit made. */
     private Uri apply(ArrayList<ContentProviderOperation> edits)
-            throws Refusal, OperationApplicationException {
+            throws RequestError, OperationApplicationException {
         try {
             return resolver.applyBatch(ContactsContract.AUTHORITY, edits)[0].uri;
         } catch (RemoteException failed) {
-            throw Refusal.of(failed);
+            throw RequestError.of(failed);
         } finally {
             edits.clear();
         }
     }
 
-    private long contactOf(long rawContact) throws Refusal {
+    private long contactOf(long rawContact) throws RequestError {
         Uri uri = ContentUris.withAppendedId(RawContacts.CONTENT_URI, rawContact);
         try (Cursor row = Query.rows(resolver, uri, new String[] {RawContacts.CONTACT_ID},
                 null, null, null)) {
             if (row.moveToNext() && row.getLong(0) != 0) return row.getLong(0);
         }
-        throw new Refusal(Refusal.FAILED, "The phone does not show the contact that was added.");
+        throw new RequestError(RequestError.FAILED, "The phone does not show the contact that was added.");
     }
 
     /** One entry of a contact: a name, a number. */
@@ -206,7 +207,7 @@ final class ContactEditor {
         }
     }
 
-    private List<DataRow> data(long contact, String type, String order) throws Refusal {
+    private List<DataRow> data(long contact, String type, String order) throws RequestError {
         List<DataRow> found = new ArrayList<DataRow>();
         String[] columns = {Data._ID, Data.RAW_CONTACT_ID, Data.DATA1};
         try (Cursor rows = Query.rows(resolver, Data.CONTENT_URI, columns,
@@ -234,7 +235,7 @@ final class ContactEditor {
         final List<Long> writable = new ArrayList<Long>();
     }
 
-    private Owners ownersOf(long contact, Set<String> readOnlyTypes) throws Refusal {
+    private Owners ownersOf(long contact, Set<String> readOnlyTypes) throws RequestError {
         Owners owners = new Owners();
         String[] columns = {RawContacts._ID, RawContacts.ACCOUNT_TYPE};
         try (Cursor rows = Query.rows(resolver, RawContacts.CONTENT_URI, columns,
@@ -248,7 +249,7 @@ final class ContactEditor {
         return owners;
     }
 
-    private List<Long> writableOwners(long contact) throws Refusal {
+    private List<Long> writableOwners(long contact) throws RequestError {
         Owners owners = ownersOf(contact, readOnlyAccountTypes());
         if (owners.all == 0) throw gone();
         if (owners.writable.isEmpty()) throw readOnly();
@@ -270,11 +271,11 @@ final class ContactEditor {
         return ContentUris.withAppendedId(ContactsContract.Contacts.CONTENT_URI, id);
     }
 
-    private boolean exists(long id) throws Refusal {
+    private boolean exists(long id) throws RequestError {
         return Query.count(resolver, contact(id), null, null) > 0;
     }
 
-    private String displayName(long id) throws Refusal {
+    private String displayName(long id) throws RequestError {
         String[] columns = {ContactsContract.Contacts.DISPLAY_NAME_PRIMARY};
         try (Cursor row = Query.rows(resolver, contact(id), columns, null, null, null)) {
             if (!row.moveToNext()) throw gone();
@@ -282,7 +283,7 @@ final class ContactEditor {
         }
     }
 
-    private List<Long> allIds() throws Refusal {
+    private List<Long> allIds() throws RequestError {
         List<Long> ids = new ArrayList<Long>();
         try (Cursor rows = Query.rows(resolver, Contacts.LIST,
                 new String[] {ContactsContract.Contacts._ID}, null, null, null)) {
@@ -291,12 +292,12 @@ final class ContactEditor {
         return ids;
     }
 
-    private static Refusal gone() {
-        return new Refusal(Refusal.GONE, "There is no such contact any more.");
+    private static RequestError gone() {
+        return new RequestError(RequestError.GONE, "There is no such contact any more.");
     }
 
-    private static Refusal readOnly() {
-        return new Refusal(Refusal.READ_ONLY,
+    private static RequestError readOnly() {
+        return new RequestError(RequestError.READ_ONLY,
                 "This contact belongs to an account that takes no changes.");
     }
 }

@@ -44,13 +44,13 @@ final class Contacts extends Kind<Contact> {
     }
 
     @Override
-    int count() throws Refusal {
+    int count() throws RequestError {
         Rights.demand(readProblem());
         return Query.count(resolver, LIST, null, null);
     }
 
     @Override
-    void each(Sink<Contact> sink) throws IOException, Refusal {
+    void each(RowHandler<Contact> handler) throws IOException, RequestError {
         Rights.demand(readProblem());
         LongSparseArray<String> numbers = numbers();
         String[] columns = {
@@ -60,7 +60,7 @@ final class Contacts extends Kind<Contact> {
                 ContactsContract.Contacts.SORT_KEY_PRIMARY)) {
             while (rows.moveToNext()) {
                 long id = rows.getLong(0);
-                sink.take(new Contact(id, Query.text(rows, 1), numbers.get(id, "")));
+                handler.handle(new Contact(id, Query.text(rows, 1), numbers.get(id, "")));
             }
         }
     }
@@ -73,31 +73,31 @@ final class Contacts extends Kind<Contact> {
     }
 
     @Override
-    long add(Item item) throws Refusal {
+    long add(Item item) throws RequestError {
         Rights.demand(writeProblem());
         return editor.add(item.name, item.number);
     }
 
     @Override
-    void change(Item item) throws Refusal {
+    void change(Item item) throws RequestError {
         Rights.demand(writeProblem());
         editor.change(item.id(), item.name, item.number);
     }
 
     @Override
-    void delete(Item item) throws Refusal {
+    void delete(Item item) throws RequestError {
         Rights.demand(writeProblem());
         editor.delete(item.id());
     }
 
     @Override
-    int deleteAll() throws Refusal {
+    int deleteAll() throws RequestError {
         Rights.demand(writeProblem());
         return editor.deleteAll();
     }
 
     /** The first number of each contact, all read in one pass. */
-    private LongSparseArray<String> numbers() throws Refusal {
+    private LongSparseArray<String> numbers() throws RequestError {
         LongSparseArray<String> numbers = new LongSparseArray<String>();
         String[] columns = {Phone.CONTACT_ID, Phone.NUMBER};
         try (Cursor rows = Query.rows(resolver, Phone.CONTENT_URI, columns, null, null,

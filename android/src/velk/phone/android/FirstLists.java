@@ -22,10 +22,10 @@ final class FirstLists {
         this.out = out;
     }
 
-    void contacts() throws IOException, Refusal {
-        phone.contacts.each(new Sink<Contact>() {
+    void contacts() throws IOException, RequestError {
+        phone.contacts.each(new RowHandler<Contact>() {
             @Override
-            public void take(Contact contact) {
+            public void handle(Contact contact) {
                 reply.decimal(contact.id);
                 reply.text(contact.name);
                 reply.text(contact.number);
@@ -35,10 +35,10 @@ final class FirstLists {
     }
 
     /** Packets of messages, and a bare header as the end. */
-    void messages() throws IOException, Refusal {
-        phone.messages.each(new Sink<Message>() {
+    void messages() throws IOException, RequestError {
+        phone.messages.each(new RowHandler<Message>() {
             @Override
-            public void take(Message message) throws IOException {
+            public void handle(Message message) throws IOException {
                 append(message);
                 if (reply.size() >= FULL_PACKET) reply.send(FirstRequest.LIST_MESSAGES, out);
             }
@@ -57,10 +57,10 @@ final class FirstLists {
         reply.number(message.read ? 1 : 0, 2);
     }
 
-    void applications() throws IOException, Refusal {
-        phone.applications.each(new Sink<Application>() {
+    void applications() throws IOException, RequestError {
+        phone.applications.each(new RowHandler<Application>() {
             @Override
-            public void take(Application application) {
+            public void handle(Application application) {
                 reply.decimal(application.size);
                 reply.text(application.installed);
                 reply.text(application.name);
@@ -72,10 +72,10 @@ final class FirstLists {
         reply.send(FirstRequest.LIST_APPLICATIONS, out);
     }
 
-    void music() throws IOException, Refusal {
-        phone.music.each(new Sink<MediaFile>() {
+    void music() throws IOException, RequestError {
+        phone.music.each(new RowHandler<MediaFile>() {
             @Override
-            public void take(MediaFile file) {
+            public void handle(MediaFile file) {
                 reply.number(file.id, 4);
                 reply.text(file.artist);
                 reply.text(file.album);
@@ -88,10 +88,10 @@ final class FirstLists {
         reply.send(FirstRequest.LIST_MUSIC, out);
     }
 
-    void videos() throws IOException, Refusal {
-        phone.videos.each(new Sink<MediaFile>() {
+    void videos() throws IOException, RequestError {
+        phone.videos.each(new RowHandler<MediaFile>() {
             @Override
-            public void take(MediaFile file) {
+            public void handle(MediaFile file) {
                 reply.number(file.id, 4);
                 reply.text(file.path);
                 reply.decimal(file.duration);
@@ -101,10 +101,10 @@ final class FirstLists {
         reply.send(FirstRequest.LIST_VIDEOS, out);
     }
 
-    void photos() throws IOException, Refusal {
-        phone.photos.each(new Sink<MediaFile>() {
+    void photos() throws IOException, RequestError {
+        phone.photos.each(new RowHandler<MediaFile>() {
             @Override
-            public void take(MediaFile file) {
+            public void handle(MediaFile file) {
                 reply.number(file.id, 4);
                 reply.text(file.path);
                 reply.decimal(file.size);
@@ -113,10 +113,10 @@ final class FirstLists {
         reply.send(FirstRequest.LIST_PHOTOS, out);
     }
 
-    void books() throws IOException, Refusal {
-        phone.books.each(new Sink<MediaFile>() {
+    void books() throws IOException, RequestError {
+        phone.books.each(new RowHandler<MediaFile>() {
             @Override
-            public void take(MediaFile file) {
+            public void handle(MediaFile file) {
                 reply.text(file.path);
                 reply.decimal(file.size);
                 reply.text(file.folder());

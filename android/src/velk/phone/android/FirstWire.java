@@ -31,7 +31,7 @@ final class FirstWire implements Wire {
         boolean readerEnds = false;
         try {
             readerEnds = answer(request, reply);
-        } catch (Refusal | RuntimeException refused) {
+        } catch (RequestError | RuntimeException failed) {
             // Not answered: the computer sees that nothing was done.
             return;
         }
@@ -59,7 +59,7 @@ final class FirstWire implements Wire {
     }
 
     /** True when the connection stays until the computer ends it: it finds the end of these lists itself. */
-    private boolean answer(FirstRequest request, OutputStream out) throws IOException, Refusal {
+    private boolean answer(FirstRequest request, OutputStream out) throws IOException, RequestError {
         int code = request.code();
         if (code == FirstRequest.BATTERY) {
             FirstReply level = new FirstReply();
@@ -78,7 +78,7 @@ final class FirstWire implements Wire {
     }
 
     /** The text of a value; null when the code asks for something else. */
-    private String value(int code) throws Refusal {
+    private String value(int code) throws RequestError {
         switch (code) {
             case FirstRequest.PHONE_SIZE:
                 return Long.toString(Phone.memory().getTotalBytes());
@@ -124,7 +124,7 @@ final class FirstWire implements Wire {
     }
 
     /** False when the code asks for no list. */
-    private boolean list(int code, OutputStream out) throws IOException, Refusal {
+    private boolean list(int code, OutputStream out) throws IOException, RequestError {
         FirstLists lists = new FirstLists(phone, out);
         switch (code) {
             case FirstRequest.LIST_CONTACTS:
@@ -153,7 +153,7 @@ final class FirstWire implements Wire {
         }
     }
 
-    private void edit(FirstRequest request, OutputStream out) throws IOException, Refusal {
+    private void edit(FirstRequest request, OutputStream out) throws IOException, RequestError {
         FirstReply reply = new FirstReply();
         if (request.code() == FirstRequest.ADD_CONTACT) {
             reply.decimal(phone.contacts.add(whole(request.contactToAdd())));
@@ -164,8 +164,8 @@ final class FirstWire implements Wire {
         reply.send(request.code(), out);
     }
 
-    /** Carries out an edit that is answered with a bare "done"; a refusal when nothing was changed. */
-    private void perform(FirstRequest request) throws Refusal {
+    /** Carries out an edit that is answered with a bare "done"; an error when nothing was changed. */
+    private void perform(FirstRequest request) throws RequestError {
         switch (request.code()) {
             case FirstRequest.MODIFY_CONTACT:
                 phone.contacts.change(whole(request.contactToModify()));
@@ -204,13 +204,13 @@ final class FirstWire implements Wire {
         }
     }
 
-    private void deleteMessage(int[] lowBytes) throws Refusal {
+    private void deleteMessage(int[] lowBytes) throws RequestError {
         if (phone.messages.deleteByLowBytes(lowBytes[0], lowBytes[1])) return;
-        throw new Refusal(Refusal.FAILED, "Several messages fit.");
+        throw new RequestError(RequestError.FAILED, "Several messages fit.");
     }
 
-    private static <T> T whole(T part) throws Refusal {
+    private static <T> T whole(T part) throws RequestError {
         if (part != null) return part;
-        throw new Refusal(Refusal.BAD_REQUEST, "The request is damaged.");
+        throw new RequestError(RequestError.BAD_REQUEST, "The request is damaged.");
     }
 }

@@ -10,24 +10,24 @@ final class Item {
     String text = "";
 
     /** The id as a number. */
-    long id() throws Refusal {
+    long id() throws RequestError {
         return number(id, "id");
     }
 
-    long thread() throws Refusal {
+    long thread() throws RequestError {
         return number(thread, "thread");
     }
 
-    String path() throws Refusal {
-        if (path.isEmpty()) throw new Refusal(Refusal.BAD_REQUEST, "The item has no path.");
+    String path() throws RequestError {
+        if (path.isEmpty()) throw new RequestError(RequestError.BAD_REQUEST, "The item has no path.");
         return path;
     }
 
-    private static long number(String text, String what) throws Refusal {
+    private static long number(String text, String what) throws RequestError {
         try {
             return Long.parseLong(text);
         } catch (NumberFormatException none) {
-            throw new Refusal(Refusal.BAD_REQUEST, "The item's " + what + " is not a number.");
+            throw new RequestError(RequestError.BAD_REQUEST, "The item's " + what + " is not a number.");
         }
     }
 }

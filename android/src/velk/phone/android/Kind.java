@@ -21,12 +21,12 @@ abstract class Kind<T> {
         return null;
     }
 
-    int count() throws Refusal {
+    int count() throws RequestError {
         throw notPossible();
     }
 
     /** Hands out the rows in the order of the phone's own lists. */
-    void each(Sink<T> sink) throws IOException, Refusal {
+    void each(RowHandler<T> handler) throws IOException, RequestError {
         throw notPossible();
     }
 
@@ -34,28 +34,28 @@ abstract class Kind<T> {
     void write(T row, JsonWriter json) throws IOException {}
 
     /** The id of what was added; 0 where it has none. */
-    long add(Item item) throws Refusal {
+    long add(Item item) throws RequestError {
         throw notPossible();
     }
 
-    void change(Item item) throws Refusal {
+    void change(Item item) throws RequestError {
         throw notPossible();
     }
 
-    void delete(Item item) throws Refusal {
+    void delete(Item item) throws RequestError {
         throw notPossible();
     }
 
-    /** How many were deleted; a refusal says how many were before it. */
-    int deleteAll() throws Refusal {
+    /** How many were deleted; an error says how many were before it. */
+    int deleteAll() throws RequestError {
         throw notPossible();
     }
 
-    void send(Item item) throws Refusal {
+    void send(Item item) throws RequestError {
         throw notPossible();
     }
 
-    private Refusal notPossible() {
-        return new Refusal(Refusal.NOT_POSSIBLE, "That cannot be done with " + name + ".");
+    private RequestError notPossible() {
+        return new RequestError(RequestError.NOT_POSSIBLE, "That cannot be done with " + name + ".");
     }
 }

@@ -14,7 +14,7 @@ final class Lines {
     private Lines() {}
 
     /** What stands before the first line feed. */
-    static byte[] read(InputStream in) throws IOException, Refusal {
+    static byte[] read(InputStream in) throws IOException, RequestError {
         byte[] line = new byte[CHUNK];
         int length = 0;
         byte[] chunk = new byte[CHUNK];
@@ -23,7 +23,7 @@ final class Lines {
             int used = end < 0 ? count : end;
             if (length + used > LONGEST) {
                 if (end < 0) discard(in, chunk);
-                throw new Refusal(Refusal.TOO_LONG, "A request has at most " + LONGEST + " bytes.");
+                throw new RequestError(RequestError.TOO_LONG, "A request has at most " + LONGEST + " bytes.");
             }
             if (length + used > line.length) {
                 line = Arrays.copyOf(line, Math.max(2 * line.length, length + used));
@@ -32,7 +32,7 @@ final class Lines {
             length += used;
             if (end >= 0) return Arrays.copyOf(line, length);
         }
-        throw new Refusal(Refusal.BAD_REQUEST, "The request was cut off.");
+        throw new RequestError(RequestError.BAD_REQUEST, "The request was cut off.");
     }
 
     private static void discard(InputStream in, byte[] chunk) throws IOException {

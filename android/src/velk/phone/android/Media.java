@@ -52,7 +52,7 @@ class Media extends Kind<MediaFile> {
         where = also == null ? present() : present() + " AND " + also;
     }
 
-    /** Neither files that are still being written nor those in the bin. */
+    /** Neither files that are still being written nor those in the trash. */
     private static String present() {
         String where = PATH + " IS NOT NULL";
         if (Build.VERSION.SDK_INT >= 29) where += " AND is_pending=0";
@@ -71,16 +71,16 @@ class Media extends Kind<MediaFile> {
     }
 
     @Override
-    int count() throws Refusal {
+    int count() throws RequestError {
         Rights.demand(readProblem());
         return Query.count(resolver, uri, where, null);
     }
 
     @Override
-    void each(Sink<MediaFile> sink) throws IOException, Refusal {
+    void each(RowHandler<MediaFile> handler) throws IOException, RequestError {
         Rights.demand(readProblem());
         try (Cursor rows = Query.rows(resolver, uri, columns, where, null, ID)) {
-            while (rows.moveToNext()) sink.take(read(rows));
+            while (rows.moveToNext()) handler.handle(read(rows));
         }
     }
 
@@ -105,16 +105,16 @@ class Media extends Kind<MediaFile> {
     }
 
     @Override
-    void delete(Item item) throws Refusal {
+    void delete(Item item) throws RequestError {
         delete(item.path(), ID + "=?", Long.toString(item.id()));
     }
 
     /** Deletes the one file of this path. The first wire's ids are cut, so there the path alone decides. */
-    void deleteByPath(String path) throws Refusal {
+    void deleteByPath(String path) throws RequestError {
         delete(path, null, null);
     }
 
-    private void delete(String path, String also, String argument) throws Refusal {
+    private void delete(String path, String also, String argument) throws RequestError {
         Rights.demand(writeProblem());
         Uri row = find(path, also, argument);
         // No path is taken from outside: it is one that the phone's own catalogue has.
@@ -122,12 +122,12 @@ class Media extends Kind<MediaFile> {
         resolver.delete(row, null, null);
     }
 
-    private Uri find(String path, String also, String argument) throws Refusal {
+    private Uri find(String path, String also, String argument) throws RequestError {
         String condition = where + " AND " + PATH + "=?" + (also == null ? "" : " AND " + also);
         String[] arguments = also == null ? new String[] {path} : new String[] {path, argument};
         try (Cursor rows = Query.rows(resolver, uri, new String[] {ID}, condition, arguments, null)) {
             if (rows.getCount() > 1) {
-                throw new Refusal(Refusal.FAILED, "The phone has several files of this path.");
+                throw new RequestError(RequestError.FAILED, "The phone has several files of this path.");
             }
             if (!rows.moveToNext()) throw gone();
             Uri row = ContentUris.withAppendedId(uri, rows.getLong(0));
@@ -136,7 +136,7 @@ class Media extends Kind<MediaFile> {
             File folder = file.getParentFile();
             if (folder == null || folder.list() == null) {
                 // It may be on a card that is not in the phone now.
-                throw new Refusal(Refusal.FAILED, "The phone shows Velk no folder of this file.");
+                throw new RequestError(RequestError.FAILED, "The phone shows Velk no folder of this file.");
             }
             // The file went without the catalogue's knowledge.
             resolver.delete(row, null, null);
@@ -144,16 +144,17 @@ class Media extends Kind<MediaFile> {
         }
     }
 
-    private static void remove(File file) throws Refusal {
+    private static void remove(File file) throws RequestError {
         if (file.delete() || !file.exists()) return;
         File folder = file.getParentFile();
         if (file.isDirectory() || (folder != null && folder.canWrite())) {
-            throw new Refusal(Refusal.FAILED, "The phone did not delete the file.");
+            throw new RequestError(RequestError.FAILED, "The phone did not delete the file.");
         }
-        throw new Refusal(Refusal.READ_ONLY, "The phone lets applications change nothing in this folder.");
+        throw new RequestError(RequestError.READ_ONLY,
+                "The phone lets applications change nothing in this folder.");
     }
 
-    private static Refusal gone() {
-        return new Refusal(Refusal.GONE, "There is no such file any more.");
+    private static RequestError gone() {
+        return new RequestError(RequestError.GONE, "There is no such file any more.");
     }
 }

@@ -18,7 +18,7 @@ import java.util.concurrent.TimeUnit;
 
 /** Sends a text message and waits for what the phone says of it. The phone itself keeps it as sent. */
 final class MessageSender {
-    private static final int PATIENCE_SECONDS = 60;
+    private static final int TIMEOUT_SECONDS = 60;
 
     private final Context context;
 
@@ -26,12 +26,12 @@ final class MessageSender {
         this.context = context;
     }
 
-    void send(String number, String text) throws Refusal {
+    void send(String number, String text) throws RequestError {
         if (number.isEmpty() || text.isEmpty()) {
-            throw new Refusal(Refusal.BAD_REQUEST, "A message needs a number and a text.");
+            throw new RequestError(RequestError.BAD_REQUEST, "A message needs a number and a text.");
         }
         if (!context.getPackageManager().hasSystemFeature(PackageManager.FEATURE_TELEPHONY)) {
-            throw new Refusal(Refusal.NOT_SENT, "This phone sends no messages.");
+            throw new RequestError(RequestError.NOT_SENT, "This phone sends no messages.");
         }
         SmsManager manager = manager();
         ArrayList<String> parts = manager.divideMessage(text);
@@ -46,14 +46,14 @@ final class MessageSender {
 
     /** Of the SIM card that sends messages. */
     @SuppressWarnings("deprecation") // the successors are missing on older phones
-    private SmsManager manager() throws Refusal {
+    private SmsManager manager() throws RequestError {
         if (Build.VERSION.SDK_INT < 24) return SmsManager.getDefault();
         int card = SubscriptionManager.getDefaultSmsSubscriptionId();
         if (card >= 0) return SmsManager.getSmsManagerForSubscriptionId(card);
         TelephonyManager telephony =
                 (TelephonyManager) context.getSystemService(Context.TELEPHONY_SERVICE);
         if (telephony.getPhoneCount() > 1) {
-            throw new Refusal(Refusal.NOT_SENT,
+            throw new RequestError(RequestError.NOT_SENT,
                     "Choose in the phone's settings which SIM card sends messages.");
         }
         return SmsManager.getDefault();
@@ -92,16 +92,16 @@ final class MessageSender {
             missing.countDown();
         }
 
-        void await() throws Refusal {
+        void await() throws RequestError {
             boolean told;
             try {
-                told = missing.await(PATIENCE_SECONDS, TimeUnit.SECONDS);
+                told = missing.await(TIMEOUT_SECONDS, TimeUnit.SECONDS);
             } catch (InterruptedException stopped) {
                 told = false;
             }
-            if (failure != Activity.RESULT_OK) throw new Refusal(Refusal.NOT_SENT, reason(failure));
+            if (failure != Activity.RESULT_OK) throw new RequestError(RequestError.NOT_SENT, reason(failure));
             if (!told) {
-                throw new Refusal(Refusal.NOT_SENT,
+                throw new RequestError(RequestError.NOT_SENT,
                         "The phone has not said whether it sent the message; it may still do so.");
             }
         }

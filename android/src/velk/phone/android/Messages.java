@@ -40,17 +40,17 @@ final class Messages extends Kind<Message> {
     }
 
     @Override
-    int count() throws Refusal {
+    int count() throws RequestError {
         Rights.demand(readProblem());
         return Query.count(resolver, URI, null, null);
     }
 
     @Override
-    void each(Sink<Message> sink) throws IOException, Refusal {
+    void each(RowHandler<Message> handler) throws IOException, RequestError {
         Rights.demand(readProblem());
         SimpleDateFormat format = new SimpleDateFormat("yyyy-MM-dd HH:mm:ss", Locale.US);
         try (Cursor rows = Query.rows(resolver, URI, COLUMNS, null, null, "date DESC, _id DESC")) {
-            while (rows.moveToNext()) sink.take(read(rows, format));
+            while (rows.moveToNext()) handler.handle(read(rows, format));
         }
     }
 
@@ -80,10 +80,10 @@ final class Messages extends Kind<Message> {
     }
 
     @Override
-    void delete(Item item) throws Refusal {
+    void delete(Item item) throws RequestError {
         long id = item.id();
         if (!exists(id, item.thread())) {
-            throw new Refusal(Refusal.GONE, "There is no such message any more.");
+            throw new RequestError(RequestError.GONE, "There is no such message any more.");
         }
         delete(id);
     }
@@ -92,7 +92,7 @@ final class Messages extends Kind<Message> {
      * Deletes the one message whose id and thread end in these bytes. False when several do, or when it
      * stays; true also when there is none, since the computer asks for the same delete three times.
      */
-    boolean deleteByLowBytes(int id, int thread) throws Refusal {
+    boolean deleteByLowBytes(int id, int thread) throws RequestError {
         Rights.demand(readProblem());
         long found;
         try (Cursor rows = Query.rows(resolver, URI, new String[] {"_id"},
@@ -107,7 +107,7 @@ final class Messages extends Kind<Message> {
     }
 
     /** Deletes all; gives how many went. Only the first wire asks for that. */
-    int clear() throws Refusal {
+    int clear() throws RequestError {
         int before = count();
         demandDelete();
         resolver.delete(URI, null, null);
@@ -115,27 +115,27 @@ final class Messages extends Kind<Message> {
     }
 
     @Override
-    void send(Item item) throws Refusal {
+    void send(Item item) throws RequestError {
         Rights.demand(rights.sendMessages());
         sender.send(item.number, item.text);
     }
 
-    private void delete(long id) throws Refusal {
+    private void delete(long id) throws RequestError {
         demandDelete();
         resolver.delete(ContentUris.withAppendedId(URI, id), null, null);
         // A phone that does not allow it changes nothing and does not say so.
         if (Query.count(resolver, URI, "_id=?", new String[] {Long.toString(id)}) > 0) {
-            throw new Refusal(Refusal.APP_OP,
+            throw new RequestError(RequestError.APP_OP,
                     "The phone kept the message: it lets only its own messaging application delete.");
         }
     }
 
-    private void demandDelete() throws Refusal {
+    private void demandDelete() throws RequestError {
         String problem = rights.deleteMessages();
-        if (problem != null) throw new Refusal(Refusal.APP_OP, problem);
+        if (problem != null) throw new RequestError(RequestError.APP_OP, problem);
     }
 
-    private boolean exists(long id, long thread) throws Refusal {
+    private boolean exists(long id, long thread) throws RequestError {
         Rights.demand(readProblem());
         return Query.count(resolver, URI, "_id=? AND thread_id=?",
                 new String[] {Long.toString(id), Long.toString(thread)}) > 0;

@@ -42,11 +42,11 @@ final class Phone {
         return Arrays.<Kind<?>>asList(contacts, messages, applications, music, photos, videos, books);
     }
 
-    Kind<?> kind(String name) throws Refusal {
+    Kind<?> kind(String name) throws RequestError {
         for (Kind<?> kind : kinds()) if (kind.name.equals(name)) return kind;
         if (addedFiles.name.equals(name)) return addedFiles;
-        if (name.isEmpty()) throw new Refusal(Refusal.BAD_REQUEST, "The request names no kind.");
-        throw new Refusal(Refusal.UNKNOWN_KIND, "This agent has no kind of this name.");
+        if (name.isEmpty()) throw new RequestError(RequestError.BAD_REQUEST, "The request names no kind.");
+        throw new RequestError(RequestError.UNKNOWN_KIND, "This agent has no kind of this name.");
     }
 
     String agentVersion() {

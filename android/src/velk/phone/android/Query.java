@@ -8,19 +8,19 @@ import android.net.Uri;
 final class Query {
     private Query() {}
 
-    /** The rows, never null: some phones lack a database, which then is a refusal. The caller closes them. */
+    /** The rows, never null: some phones lack a database, which then is an error. The caller closes them. */
     static Cursor rows(ContentResolver resolver, Uri uri, String[] columns, String where,
-            String[] arguments, String order) throws Refusal {
+            String[] arguments, String order) throws RequestError {
         Cursor rows = resolver.query(uri, columns, where, arguments, order);
         if (rows == null) {
-            throw new Refusal(Refusal.FAILED,
+            throw new RequestError(RequestError.FAILED,
                     "The phone has no database of " + uri.getAuthority() + ".");
         }
         return rows;
     }
 
     static int count(ContentResolver resolver, Uri uri, String where, String[] arguments)
-            throws Refusal {
+            throws RequestError {
         try (Cursor rows = rows(resolver, uri, new String[] {"_id"}, where, arguments, null)) {
             return rows.getCount();
         }

@@ -43,7 +43,7 @@ final class ReplyWriter {
     }
 
     /** The last line of a reply that stops here. */
-    void error(Refusal why) throws IOException {
+    void error(RequestError why) throws IOException {
         begin().name("error").value(why.code).name("message").value(why.getMessage());
         writeLine();
         out.flush();

@@ -25,28 +25,29 @@ final class Request {
     private final byte[] line;
 
     /** Reads and checks a line, without its line feed. */
-    Request(byte[] line) throws Refusal {
+    Request(byte[] line) throws RequestError {
         this.line = line;
         Head head = new Head();
         try {
             read(head, null);
         } catch (IOException | IllegalStateException | NumberFormatException broken) {
-            throw new Refusal(Refusal.BAD_REQUEST, "The line is no JSON object of a request's form.");
+            throw new RequestError(RequestError.BAD_REQUEST,
+                    "The line is no JSON object of a request's form.");
         }
         op = head.op;
         kind = head.kind;
         all = head.all;
         hasItems = head.hasItems;
-        if (op.isEmpty()) throw new Refusal(Refusal.BAD_REQUEST, "The request names no operation.");
+        if (op.isEmpty()) throw new RequestError(RequestError.BAD_REQUEST, "The request names no operation.");
     }
 
-    static Request from(InputStream in) throws IOException, Refusal {
+    static Request from(InputStream in) throws IOException, RequestError {
         return new Request(Lines.read(in));
     }
 
     /** Hands out the items in their order. */
-    void eachItem(Sink<Item> sink) throws IOException, Refusal {
-        read(new Head(), sink);
+    void eachItem(RowHandler<Item> handler) throws IOException, RequestError {
+        read(new Head(), handler);
     }
 
     private static final class Head {
@@ -56,18 +57,18 @@ final class Request {
         boolean hasItems;
     }
 
-    private void read(Head head, Sink<Item> sink) throws IOException, Refusal {
+    private void read(Head head, RowHandler<Item> handler) throws IOException, RequestError {
         // This decoder refuses what is no UTF-8; a name must not turn into another one.
         JsonReader json = new JsonReader(new InputStreamReader(
                 new ByteArrayInputStream(line), StandardCharsets.UTF_8.newDecoder()));
         json.beginObject();
-        while (json.hasNext()) readMember(json, head, sink);
+        while (json.hasNext()) readMember(json, head, handler);
         json.endObject();
         if (json.peek() != JsonToken.END_DOCUMENT) throw new IOException("There is more in the line.");
     }
 
-    private static void readMember(JsonReader json, Head head, Sink<Item> sink)
-            throws IOException, Refusal {
+    private static void readMember(JsonReader json, Head head, RowHandler<Item> handler)
+            throws IOException, RequestError {
         switch (json.nextName()) {
             case "op":
                 head.op = json.nextString();
@@ -81,18 +82,19 @@ final class Request {
             case "items":
                 if (head.hasItems) throw new IOException("There are two lists of items.");
                 head.hasItems = true;
-                readItems(json, sink);
+                readItems(json, handler);
                 return;
             default:
                 skip(json, DEEPEST);
         }
     }
 
-    private static void readItems(JsonReader json, Sink<Item> sink) throws IOException, Refusal {
+    private static void readItems(JsonReader json, RowHandler<Item> handler)
+            throws IOException, RequestError {
         json.beginArray();
         while (json.hasNext()) {
             Item item = readItem(json);
-            if (sink != null) sink.take(item);
+            if (handler != null) handler.handle(item);
         }
         json.endArray();
     }

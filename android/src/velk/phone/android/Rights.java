@@ -96,8 +96,8 @@ final class Rights {
     }
 
     /** Refuses with `problem` when there is one. */
-    static void demand(String problem) throws Refusal {
-        if (problem != null) throw new Refusal(Refusal.PERMISSION, problem);
+    static void demand(String problem) throws RequestError {
+        if (problem != null) throw new RequestError(RequestError.PERMISSION, problem);
     }
 
     private String sentence(String permission, String what) {

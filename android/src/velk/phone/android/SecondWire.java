@@ -22,16 +22,16 @@ final class SecondWire implements Wire {
         try {
             answer(Request.from(in), reply);
             reply.end();
-        } catch (Refusal refusal) {
-            reply.error(refusal);
+        } catch (RequestError error) {
+            reply.error(error);
         } catch (RuntimeException failure) {
-            reply.error(Refusal.of(failure));
+            reply.error(RequestError.of(failure));
         } catch (OutOfMemoryError full) {
-            reply.error(Refusal.of(full));
+            reply.error(RequestError.of(full));
         }
     }
 
-    private void answer(Request request, ReplyWriter reply) throws IOException, Refusal {
+    private void answer(Request request, ReplyWriter reply) throws IOException, RequestError {
         switch (request.op) {
             case "hello":
                 hello(reply);
@@ -49,7 +49,7 @@ final class SecondWire implements Wire {
                 edit(request, phone.kind(request.kind), reply);
                 return;
             default:
-                throw new Refusal(Refusal.UNKNOWN_OPERATION,
+                throw new RequestError(RequestError.UNKNOWN_OPERATION,
                         "This agent has no operation of this name.");
         }
     }
@@ -71,7 +71,7 @@ final class SecondWire implements Wire {
         }
     }
 
-    private void count(Request request, ReplyWriter reply) throws IOException, Refusal {
+    private void count(Request request, ReplyWriter reply) throws IOException, RequestError {
         if (!request.kind.isEmpty()) {
             countOne(phone.kind(request.kind), reply);
             return;
@@ -81,23 +81,23 @@ final class SecondWire implements Wire {
 
     private static void countOne(Kind<?> kind, ReplyWriter reply) throws IOException {
         int count = 0;
-        Refusal refusal = null;
+        RequestError error = null;
         try {
             count = kind.count();
-        } catch (Refusal | RuntimeException refused) {
-            refusal = Refusal.of(refused);
+        } catch (RequestError | RuntimeException failed) {
+            error = RequestError.of(failed);
         }
         JsonWriter json = reply.begin().name("kind").value(kind.name);
-        if (refusal == null) json.name("count").value(count);
-        else json.name("code").value(refusal.code).name("message").value(refusal.getMessage());
+        if (error == null) json.name("count").value(count);
+        else json.name("code").value(error.code).name("message").value(error.getMessage());
         reply.finish();
     }
 
     private static <T> void list(final Kind<T> kind, final ReplyWriter reply)
-            throws IOException, Refusal {
-        kind.each(new Sink<T>() {
+            throws IOException, RequestError {
+        kind.each(new RowHandler<T>() {
             @Override
-            public void take(T row) throws IOException {
+            public void handle(T row) throws IOException {
                 kind.write(row, reply.begin());
                 reply.finish();
             }
@@ -105,41 +105,41 @@ final class SecondWire implements Wire {
     }
 
     private static void edit(final Request request, final Kind<?> kind, final ReplyWriter reply)
-            throws IOException, Refusal {
+            throws IOException, RequestError {
         if (request.all && request.hasItems) {
-            throw new Refusal(Refusal.BAD_REQUEST, "The request names both items and everything.");
+            throw new RequestError(RequestError.BAD_REQUEST, "The request names both items and everything.");
         }
         if (request.all && request.op.equals("delete")) {
             deleteAll(kind, reply);
             return;
         }
-        if (!request.hasItems) throw new Refusal(Refusal.BAD_REQUEST, "The request has no items.");
-        request.eachItem(new Sink<Item>() {
+        if (!request.hasItems) throw new RequestError(RequestError.BAD_REQUEST, "The request has no items.");
+        request.eachItem(new RowHandler<Item>() {
             private int number;
 
             @Override
-            public void take(Item item) throws IOException, Refusal {
+            public void handle(Item item) throws IOException, RequestError {
                 editOne(request.op, kind, item, number++, reply);
             }
         });
     }
 
     private static void editOne(String op, Kind<?> kind, Item item, int number, ReplyWriter reply)
-            throws IOException, Refusal {
+            throws IOException, RequestError {
         long id = 0;
-        Refusal refusal = null;
+        RequestError error = null;
         try {
             id = perform(op, kind, item);
-        } catch (Refusal | RuntimeException refused) {
-            refusal = Refusal.of(refused);
+        } catch (RequestError | RuntimeException failed) {
+            error = RequestError.of(failed);
         }
-        JsonWriter json = beginResult(number, refusal, reply);
+        JsonWriter json = beginResult(number, error, reply);
         if (id != 0) json.name("id").value(Long.toString(id));
         reply.finish();
         reply.flush();
     }
 
-    private static long perform(String op, Kind<?> kind, Item item) throws Refusal {
+    private static long perform(String op, Kind<?> kind, Item item) throws RequestError {
         switch (op) {
             case "add":
                 return kind.add(item);
@@ -155,27 +155,27 @@ final class SecondWire implements Wire {
         }
     }
 
-    private static void deleteAll(Kind<?> kind, ReplyWriter reply) throws IOException, Refusal {
+    private static void deleteAll(Kind<?> kind, ReplyWriter reply) throws IOException, RequestError {
         int count = 0;
-        Refusal refusal = null;
+        RequestError error = null;
         try {
             count = kind.deleteAll();
-        } catch (Refusal | RuntimeException refused) {
-            refusal = Refusal.of(refused);
-            count = refusal.deleted;
+        } catch (RequestError | RuntimeException failed) {
+            error = RequestError.of(failed);
+            count = error.deleted;
         }
-        beginResult(0, refusal, reply).name("count").value(count);
+        beginResult(0, error, reply).name("count").value(count);
         reply.finish();
     }
 
     /** What is never possible is no matter of the item: it ends the reply. */
-    private static JsonWriter beginResult(int number, Refusal refusal, ReplyWriter reply)
-            throws IOException, Refusal {
-        if (refusal != null && refusal.code.equals(Refusal.NOT_POSSIBLE)) throw refusal;
+    private static JsonWriter beginResult(int number, RequestError error, ReplyWriter reply)
+            throws IOException, RequestError {
+        if (error != null && error.code.equals(RequestError.NOT_POSSIBLE)) throw error;
         JsonWriter json = reply.begin().name("item").value(number)
-                .name("done").value(refusal == null);
-        if (refusal != null) json.name("code").value(refusal.code)
-                .name("message").value(refusal.getMessage());
+                .name("done").value(error == null);
+        if (error != null) json.name("code").value(error.code)
+                .name("message").value(error.getMessage());
         return json;
     }
 }

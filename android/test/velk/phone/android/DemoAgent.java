@@ -63,8 +63,8 @@ public class DemoAgent {
                 System.out.println("goodbye");
             }
         };
-        new Doorkeeper(new Port(argument("first", 0)), new FirstWire(phone.phone, stay), "first");
-        new Doorkeeper(new Port(argument("second", 0)), new SecondWire(phone.phone), "second");
+        new ConnectionServer(new Port(argument("first", 0)), new FirstWire(phone.phone, stay), "first");
+        new ConnectionServer(new Port(argument("second", 0)), new SecondWire(phone.phone), "second");
         System.out.println("ready");
         while (!Thread.interrupted()) {
             shadowOf(Looper.getMainLooper()).idle();
@@ -134,7 +134,7 @@ public class DemoAgent {
     }
 
     /** A port of this computer's own network, where everybody counts as the shell. */
-    private static final class Port implements Door {
+    private static final class Port implements Listener {
         private final ServerSocket server;
 
         Port(int port) throws IOException {
@@ -142,9 +142,9 @@ public class DemoAgent {
         }
 
         @Override
-        public Peer accept() throws IOException {
+        public Connection accept() throws IOException {
             final Socket socket = server.accept();
-            return new Peer() {
+            return new Connection() {
                 @Override
                 public int uid() {
                     return 2000;

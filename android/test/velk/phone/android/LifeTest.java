@@ -36,13 +36,13 @@ import org.robolectric.annotation.Config;
 public class LifeTest {
     private static final int UNKNOWN = -1;
 
-    private static final class FakePeer implements Peer {
+    private static final class FakeConnection implements Connection {
         final int uid;
         final ByteArrayOutputStream got = new ByteArrayOutputStream();
         final CountDownLatch closed = new CountDownLatch(1);
         volatile boolean read;
 
-        FakePeer(int uid) {
+        FakeConnection(int uid) {
             this.uid = uid;
         }
 
@@ -69,14 +69,14 @@ public class LifeTest {
         }
     }
 
-    private static final class FakeDoor implements Door {
-        final LinkedBlockingQueue<FakePeer> peers = new LinkedBlockingQueue<>();
+    private static final class FakeListener implements Listener {
+        final LinkedBlockingQueue<FakeConnection> connections = new LinkedBlockingQueue<>();
 
         @Override
-        public Peer accept() throws IOException {
+        public Connection accept() throws IOException {
             try {
-                FakePeer peer = peers.take();
-                if (peer.closed.getCount() > 0) return peer;
+                FakeConnection connection = connections.take();
+                if (connection.closed.getCount() > 0) return connection;
             } catch (InterruptedException stopped) {
                 Thread.currentThread().interrupt();
             }
@@ -85,32 +85,32 @@ public class LifeTest {
 
         @Override
         public void close() {
-            FakePeer last = new FakePeer(0);
+            FakeConnection last = new FakeConnection(0);
             last.close();
-            peers.add(last);
+            connections.add(last);
         }
     }
 
     @Test
     public void onlyRootAndTheShellGetIn() throws Exception {
-        FakeDoor door = new FakeDoor();
-        Doorkeeper keeper = new Doorkeeper(door, new Wire() {
+        FakeListener listener = new FakeListener();
+        ConnectionServer server = new ConnectionServer(listener, new Wire() {
             @Override
             public void serve(InputStream in, OutputStream out) throws IOException {
                 out.write(in.read());
                 throw new IllegalStateException("A broken request lets the next one in all the same.");
             }
-        }, "keeper");
+        }, "server");
         int[] uids = {0, 2000, 1000, 1001, 10050, UNKNOWN, 102000};
         for (int uid : uids) {
-            FakePeer peer = new FakePeer(uid);
-            door.peers.add(peer);
-            assertTrue(peer.closed.await(10, TimeUnit.SECONDS));
+            FakeConnection connection = new FakeConnection(uid);
+            listener.connections.add(connection);
+            assertTrue(connection.closed.await(10, TimeUnit.SECONDS));
             boolean welcome = uid == 0 || uid == 2000;
-            assertEquals("uid " + uid, welcome, peer.read);
-            assertEquals("uid " + uid, welcome ? "x" : "", peer.got.toString());
+            assertEquals("uid " + uid, welcome, connection.read);
+            assertEquals("uid " + uid, welcome ? "x" : "", connection.got.toString());
         }
-        keeper.stop();
+        server.stop();
     }
 
     /** Runs what the main thread has to do in so many seconds. */
@@ -124,14 +124,14 @@ public class LifeTest {
         pass(0);
     }
 
-    private static final class Watch implements CableWatch.Quiet, Runnable {
+    private static final class Watch implements CableWatch.IdleTime, Runnable {
         final CableWatch watch = new CableWatch(RuntimeEnvironment.getApplication(), this, this);
-        long quiet = Long.MAX_VALUE;
+        long idle = Long.MAX_VALUE;
         boolean away;
 
         @Override
         public long milliseconds() {
-            return quiet;
+            return idle;
         }
 
         @Override
@@ -153,10 +153,10 @@ public class LifeTest {
         pass(600);
         assertFalse("It was out for a moment.", watch.away);
         cable(false);
-        watch.quiet = 1000;
+        watch.idle = 1000;
         pass(600);
         assertFalse("Somebody was here all the same.", watch.away);
-        watch.quiet = Long.MAX_VALUE;
+        watch.idle = Long.MAX_VALUE;
         pass(20);
         assertTrue(watch.away);
         watch.watch.stop();

@@ -288,14 +288,15 @@ public class SecondWireTest {
             assertEquals("permission", result("send", "messages", item("number", "1", "text", "x")));
         } else {
             shadowOf((TelephonyManager) phone.application.getSystemService("phone")).setPhoneCount(2);
-            assertEquals("no SIM card chosen", "not-sent", result("send", "messages", item("number", "1", "text", "x")));
+            assertEquals("no SIM card chosen", "not-sent",
+                    result("send", "messages", item("number", "1", "text", "x")));
             ShadowSubscriptionManager.setDefaultSmsSubscriptionId(1);
             assertEquals("done", result("send", "messages", item("number", "1", "text", "x")));
         }
     }
 
     @Test
-    public void filesThatArePendingOrInTheBinAreNotThere() throws Exception {
+    public void filesThatArePendingOrInTheTrashAreNotThere() throws Exception {
         android.net.Uri audio = MediaStore.Audio.Media.EXTERNAL_CONTENT_URI;
         phone.media.add(audio, LARGE, "/a/" + STRANGE + ".mp3", 3000000000L, "is_ringtone");
         phone.media.add(audio, 2, null, 1, null);

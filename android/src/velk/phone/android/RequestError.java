@@ -1,7 +1,7 @@
 package velk.phone.android;
 
 /** Why something was not done: a code that a program can act on and a sentence for a person. */
-final class Refusal extends Exception {
+final class RequestError extends Exception {
     static final String BAD_REQUEST = "bad-request";
     static final String UNKNOWN_OPERATION = "unknown-operation";
     static final String UNKNOWN_KIND = "unknown-kind";
@@ -20,16 +20,16 @@ final class Refusal extends Exception {
     /** How many records were deleted before a deletion of all of them stopped. */
     int deleted;
 
-    Refusal(String code, String message) {
+    RequestError(String code, String message) {
         super(message);
         this.code = code;
     }
 
     /** What the phone threw, as an answer. */
-    static Refusal of(Throwable thrown) {
-        if (thrown instanceof Refusal) return (Refusal) thrown;
+    static RequestError of(Throwable thrown) {
+        if (thrown instanceof RequestError) return (RequestError) thrown;
         String reason = thrown.getMessage();
         if (reason == null || reason.isEmpty()) reason = thrown.getClass().getSimpleName();
-        return new Refusal(thrown instanceof SecurityException ? PERMISSION : FAILED, reason);
+        return new RequestError(thrown instanceof SecurityException ? PERMISSION : FAILED, reason);
     }
 }

@@ -10,30 +10,30 @@ import java.util.concurrent.TimeUnit;
 import java.util.concurrent.atomic.AtomicInteger;
 
 /** Accepts the connections of the computer and of nobody else, and gives each one a thread. */
-final class Doorkeeper {
+final class ConnectionServer {
     private static final String TAG = "velk";
     /** adbd runs as one of these two. */
     private static final int ROOT_UID = 0;
     private static final int SHELL_UID = 2000;
 
-    private static final int MOST_AT_ONCE = 8;
-    private static final int MOST_WAITING = 64;
+    private static final int MAX_THREADS = 8;
+    private static final int MAX_QUEUED = 64;
     private static final long FIRST_PAUSE_MS = 100;
     private static final long LONGEST_PAUSE_MS = 5000;
 
-    private final Door door;
+    private final Listener listener;
     private final Wire wire;
     private final ThreadPoolExecutor workers;
-    private final AtomicInteger inside = new AtomicInteger();
-    private volatile long lastVisit = SystemClock.elapsedRealtime();
+    private final AtomicInteger active = new AtomicInteger();
+    private volatile long lastClosed = SystemClock.elapsedRealtime();
     private volatile boolean stopped;
 
     /** Accepts connections from now on, until stop(). */
-    Doorkeeper(Door door, Wire wire, String name) {
-        this.door = door;
+    ConnectionServer(Listener listener, Wire wire, String name) {
+        this.listener = listener;
         this.wire = wire;
-        workers = new ThreadPoolExecutor(MOST_AT_ONCE, MOST_AT_ONCE, 10, TimeUnit.SECONDS,
-                new LinkedBlockingQueue<Runnable>(MOST_WAITING));
+        workers = new ThreadPoolExecutor(MAX_THREADS, MAX_THREADS, 10, TimeUnit.SECONDS,
+                new LinkedBlockingQueue<Runnable>(MAX_QUEUED));
         workers.allowCoreThreadTimeOut(true);
         new Thread(new Runnable() {
             @Override
@@ -46,20 +46,20 @@ final class Doorkeeper {
     /** Takes no connection any more; those that are served go on to their end. */
     void stop() {
         stopped = true;
-        door.close();
+        listener.close();
         workers.shutdown();
     }
 
     /** Milliseconds since the last connection ended; 0 during one. */
-    long quietFor() {
-        return inside.get() > 0 ? 0 : SystemClock.elapsedRealtime() - lastVisit;
+    long idleFor() {
+        return active.get() > 0 ? 0 : SystemClock.elapsedRealtime() - lastClosed;
     }
 
     private void acceptAll() {
         long pause = FIRST_PAUSE_MS;
         while (!stopped) {
             try {
-                receive(door.accept());
+                receive(listener.accept());
                 pause = FIRST_PAUSE_MS;
             } catch (IOException failed) {
                 if (stopped) return;
@@ -71,48 +71,48 @@ final class Doorkeeper {
         }
     }
 
-    private void receive(final Peer peer) {
-        if (!mayEnter(peer)) {
-            peer.close();
+    private void receive(final Connection connection) {
+        if (!isAllowed(connection)) {
+            connection.close();
             return;
         }
-        inside.incrementAndGet();
+        active.incrementAndGet();
         try {
             workers.execute(new Runnable() {
                 @Override
                 public void run() {
-                    serve(peer);
+                    serve(connection);
                 }
             });
         } catch (RejectedExecutionException full) {
-            leave(peer);
+            finish(connection);
         }
     }
 
-    private static boolean mayEnter(Peer peer) {
+    private static boolean isAllowed(Connection connection) {
         try {
-            int uid = peer.uid();
+            int uid = connection.uid();
             return uid == ROOT_UID || uid == SHELL_UID;
         } catch (IOException unknown) {
             return false;
         }
     }
 
-    private void serve(Peer peer) {
+    private void serve(Connection connection) {
         try {
-            wire.serve(peer.in(), peer.out());
+            wire.serve(connection.in(), connection.out());
         } catch (IOException gone) {
             // The computer has hung up; there is nobody to tell.
         } catch (RuntimeException | OutOfMemoryError broken) {
             Log.e(TAG, "A request ended in an error", broken);
         } finally {
-            leave(peer);
+            finish(connection);
         }
     }
 
-    private void leave(Peer peer) {
-        peer.close();
-        lastVisit = SystemClock.elapsedRealtime();
-        inside.decrementAndGet();
+    private void finish(Connection connection) {
+        connection.close();
+        lastClosed = SystemClock.elapsedRealtime();
+        active.decrementAndGet();
     }
 }

@@ -8,12 +8,12 @@ import android.content.Context;
 import android.content.Intent;
 import android.os.Build;
 
-/** The one quiet notification that stands there while the agent runs. */
-final class ConnectedNotice {
+/** The one silent notification that is shown while the agent runs. */
+final class ServiceNotification {
     static final int ID = 1;
     private static final String CHANNEL = "connection";
 
-    private ConnectedNotice() {}
+    private ServiceNotification() {}
 
     /** `nameTaken`: another application has taken the name of one of our sockets. */
     static Notification make(Context context, boolean nameTaken) {

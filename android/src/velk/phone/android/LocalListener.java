@@ -8,24 +8,24 @@ import java.io.InputStream;
 import java.io.OutputStream;
 
 /** An abstract local socket. Unlike a TCP port it tells who connects, and takes no INTERNET permission. */
-final class LocalDoor implements Door {
+final class LocalListener implements Listener {
     /** A connection on which nothing comes for so long is closed. */
-    private static final int PATIENCE_MS = 60000;
+    private static final int TIMEOUT_MS = 60000;
 
     private final String name;
     private final LocalServerSocket socket;
     private volatile boolean closed;
 
-    LocalDoor(String name) throws IOException {
+    LocalListener(String name) throws IOException {
         this.name = name;
         socket = new LocalServerSocket(name);
     }
 
     @Override
-    public Peer accept() throws IOException {
-        LocalSocket peer = socket.accept();
-        if (!closed) return new LocalPeer(peer);
-        peer.close();
+    public Connection accept() throws IOException {
+        LocalSocket accepted = socket.accept();
+        if (!closed) return new LocalConnection(accepted);
+        accepted.close();
         throw new IOException("closed");
     }
 
@@ -55,10 +55,10 @@ final class LocalDoor implements Door {
         }
     }
 
-    private static final class LocalPeer implements Peer {
+    private static final class LocalConnection implements Connection {
         private final LocalSocket socket;
 
-        LocalPeer(LocalSocket socket) {
+        LocalConnection(LocalSocket socket) {
             this.socket = socket;
         }
 
@@ -69,7 +69,7 @@ final class LocalDoor implements Door {
 
         @Override
         public InputStream in() throws IOException {
-            socket.setSoTimeout(PATIENCE_MS);
+            socket.setSoTimeout(TIMEOUT_MS);
             return socket.getInputStream();
         }
 

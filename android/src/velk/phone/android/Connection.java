@@ -4,8 +4,8 @@ import java.io.IOException;
 import java.io.InputStream;
 import java.io.OutputStream;
 
-/** Who is at the other end of a connection. */
-interface Peer {
+/** A connection of the computer, or of whoever else connects. */
+interface Connection {
     /** The user that the other end runs as; the system says so, not the peer. */
     int uid() throws IOException;
 

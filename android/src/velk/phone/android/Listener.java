@@ -3,9 +3,9 @@ package velk.phone.android;
 import java.io.IOException;
 
 /** Where connections come in. */
-interface Door {
+interface Listener {
     /** Waits for the next connection. */
-    Peer accept() throws IOException;
+    Connection accept() throws IOException;
 
     /** Makes a waiting accept() return or throw, and takes no connection any more. */
     void close();
