@@ -39,5 +39,7 @@ src/session/views.cpp #include <QtWidgets/QLabel>
 tests/session/views_test.cpp #include <QTest>
 src/session/views.cpp #include <libudev.h>
 src/managers/contacts.cpp #include <plist/plist.h>
+src/agent/sms.cpp #include <nlohmann/json.hpp>
+src/managers/contacts.cpp #include <simdjson.h>
 demo_phone/wire.cpp #include "agent/codec.h"
 WRONG
