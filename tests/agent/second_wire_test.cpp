@@ -128,6 +128,12 @@ TEST_F(Second_Wire, TakesNoDamagedListForAWholeOne) {
     for (int i = 0; i < 20; ++i)
         list += "{\"id\":\"" + std::to_string(i) + "\",\"name\":\"n\\u05d0\",\"number\":\"1\"}\n";
     list += "{\"end\":20}\n";
+    std::size_t lines = 0;
+    for (std::size_t end = 0; (end = list.find('\n', end) + 1) != list.size(); ++lines) {
+        EXPECT_EQ(contacts_of(list.substr(0, end)).size(), lines + 1);
+        EXPECT_THAT(phone.refusal(), StartsWith("The connection to the phone broke off"));
+    }
+    EXPECT_EQ(lines, 20U);
     std::mt19937 random(7);
     for (int round = 0; round < 1000; ++round) {
         std::string damaged = list;

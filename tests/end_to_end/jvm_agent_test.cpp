@@ -116,6 +116,27 @@ TEST_F(Jvm_Agent, deletes_a_file_by_its_id_and_path_alone) {
     std::vector<sock_apk::PHOTO_RECORD> left;
     phone.send_command_get_photo("118", left);
     EXPECT_EQ(left.size(), 49U);
+    std::vector<sock_apk::BOOK_RECORD> books;
+    phone.send_command_get_book("119", books);
+    ASSERT_EQ(books.size(), 50U) << phone.refusal();
+    EXPECT_TRUE(phone.del_one_for_book(57, books[7].file_path.c_str())) << phone.refusal();
+    EXPECT_FALSE(phone.del_one_for_book(57, books[7].file_path.c_str()));
+    EXPECT_THAT(phone.refusal(), HasSubstr("no such file"));
+}
+
+TEST_F(Jvm_Agent, serves_the_edits_of_the_first_wire_too) {
+    use_first_wire();
+    const std::string id = sock_apk::get_contact_id(phone.add_one_contact("Zoe", "7"));
+    EXPECT_TRUE(phone.modify_one_contact("Zoey", "8", id.c_str()));
+    choose_wire();
+    const auto people = contacts();
+    EXPECT_EQ(count_of(people, &sock_apk::CONTACT::name, "Zoey"), 1);
+    use_first_wire();
+    EXPECT_TRUE(phone.del_one_contact(id.c_str()));
+    EXPECT_FALSE(phone.del_one_contact(id.c_str()));
+    choose_wire();
+    EXPECT_TRUE(phone.do_command(phone.getCommand_DelAllContacts())) << phone.refusal();
+    EXPECT_TRUE(contacts().empty());
 }
 
 }  // namespace
