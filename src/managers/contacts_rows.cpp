@@ -1,6 +1,7 @@
 #include "managers/contacts_rows.h"
 
 #include "agent/sock_apk.h"
+#include "agent/wire_choice.h"
 #include "base/text.h"
 #include "managers/common_columns.h"
 
@@ -50,7 +51,7 @@ std::vector<Contacts_TableSource_Column> fetch_contact_rows(std::string& missing
 }
 
 std::string without_separators(const std::string& text) {
-    return replace_all(text, '|', '!');
+    return second_wire_in_use() ? text : replace_all(text, '|', '!');
 }
 
 }  // namespace velk

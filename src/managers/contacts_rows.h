@@ -31,8 +31,9 @@ inline constexpr const char* contacts_wait_text = "Waiting for the phone: contac
 /// as far as the phone tells; empty otherwise. Worker.
 std::vector<Contacts_TableSource_Column> fetch_contact_rows(std::string& missing);
 
-/// "|" separates fields in requests and ends them: the number of a row, a number that is typed, and
-/// what a page holds have another mark in its place.
+/// "|" separates fields in requests of the first wire and ends them: while that one is in use, the
+/// number of a row, a number that is typed, and what a page holds have another mark in its place.
+/// On the second wire every text stays as it is. Any thread.
 std::string without_separators(const std::string& text);
 
 }  // namespace velk

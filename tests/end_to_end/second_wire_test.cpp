@@ -56,14 +56,15 @@ TEST_F(Whole_Phone, lists_every_contact_and_takes_every_name) {
 TEST_F(Whole_Phone, gives_contacts_back_that_were_exported) {
     connect_to({"--contacts", "20"});
     desktop.use_dialog([](Dialog& dialog) {
-        dynamic_cast<Contacts_Add&>(dialog).m_Edit_Name.type("star*name");
-        dynamic_cast<Contacts_Add&>(dialog).m_Edit_PhoneNumber.type("+38*10");
+        dynamic_cast<Contacts_Add&>(dialog).m_Edit_Name.type("star*na|me");
+        dynamic_cast<Contacts_Add&>(dialog).m_Edit_PhoneNumber.type("+38*1|0");
         dialog.OnBT_OK();
     });
     load_contacts();
     contacts().OnBT_AddContacts();
     desktop.finish_work();
     const std::multiset<std::string> before = people();
+    EXPECT_EQ(before.count("star*na|me | +38*1|0"), 1U);
     desktop.choose_file(file("people"));
     contacts().OnBT_ContactsExport();
     desktop.finish_work();
