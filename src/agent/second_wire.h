@@ -28,8 +28,9 @@ struct Wire_End {
     bool whole = false;
     /// Why not: the agent's own words, or ours. A short sentence for a person.
     std::string reason;
-    /// The connection was taken and closed again without a line: nobody listens on the phone yet.
-    bool closed_at_once = false;
+    /// Not even one line came on a connection that was accepted: nobody listens on the phone yet,
+    /// or nobody answers there.
+    bool has_no_line = false;
 };
 
 using On_Record = std::function<void(const simdjson::dom::object&)>;

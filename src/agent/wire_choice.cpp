@@ -70,8 +70,8 @@ void choose_wire() {
     do {
         const auto left = std::chrono::ceil<std::chrono::milliseconds>(latest - Clock::now());
         end = say_hello(hello, wire, left);
-        // An agent that is still starting: the tool takes the connection and finds nobody.
-    } while (end.closed_at_once && Clock::now() + pause_between_hellos < latest &&
+        // While the agent is still starting, adb accepts the connection and closes it again.
+    } while (end.has_no_line && Clock::now() + pause_between_hellos < latest &&
              Interruptor::current().sleep_for(pause_between_hellos));
     const bool second = end.whole && wire >= oldest_wire_understood;
     trace("Wire: %d\n", second ? 2 : 1);

@@ -19,9 +19,6 @@ const Phone_List<sock_apk::APP_RECORD> phone_list = {
     .loaded = "There are %zu application(s) on your Mobile Phone.",
     .counted = g_int_count_apps};
 
-// The phone's own words differ from one to the next, save when all went well.
-constexpr const char* all_went_well = "Success";
-
 /// Why the tool failed; empty when it did not, or did not say why.
 std::string failure_of(const std::string& printed) {
     const std::string line = last_line(printed);

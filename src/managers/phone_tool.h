@@ -32,4 +32,8 @@ std::string last_line(const std::string& printed);
 /// The same, when that line tells of a failure; empty otherwise.
 std::string failure_in(const std::string& printed);
 
+/// The last line when a package was installed or removed. The words for a failure differ from phone
+/// to phone.
+inline constexpr const char* all_went_well = "Success";
+
 }  // namespace velk

@@ -36,7 +36,7 @@ void MainDocument::remove_agent(const std::string& phone) {
                                                  &printed);
     }
     const std::string answer = last_line(printed);
-    if (answer != "Success")
+    if (answer != all_went_well)
         return show_message(format("Velk's application could not be removed from the phone: %s",
                                    answer.empty() ? "adb does not say why." : answer.c_str()));
     on_window([this] {
