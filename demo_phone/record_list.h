@@ -57,8 +57,8 @@ class Record_List {
     /// Where reading with next() begins.
     static constexpr std::int64_t start = std::numeric_limits<std::int64_t>::min();
 
-    /// The record behind `place`, which moves on; null at the end. Between two calls the list may
-    /// change: the records that stay are each read once.
+    /// The first record after `place`, which is set to it; null at the end. The list may change
+    /// between two calls: each record that stays is read once.
     const Record* next(std::int64_t& place) const {
         const auto found = records_.upper_bound(place);
         if (found == records_.end()) return nullptr;

@@ -15,7 +15,7 @@ struct Wire_Error {
     std::string message;  // a sentence
 };
 
-/// Records, and behind the last one their number; or an error alone.
+/// Either records, which the reply ends with the number of, or an error and no records.
 struct Wire_Reply {
     Record_Source records;  // none for an error
     Wire_Error error{};

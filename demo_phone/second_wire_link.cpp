@@ -7,7 +7,8 @@
 namespace velk {
 
 void Second_Wire_Link::received(std::string_view bytes, Phone_Outlet& outlet) {
-    if (state_ != State::reading) return;  // one request, and nothing behind it
+    if (state_ != State::reading)
+        return;  // a connection carries one request; bytes after it are ignored
     const std::size_t end = bytes.find('\n');
     request_ += bytes.substr(0, end);
     if (end != std::string_view::npos || request_.size() > g_longest_line) take_request(outlet);

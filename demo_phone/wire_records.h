@@ -10,7 +10,7 @@
 
 namespace velk {
 
-/// Appends the line of the next record; false, with nothing appended, behind the last one.
+/// Appends the line of the next record. After the last record it appends nothing and gives false.
 using Record_Source = std::function<bool(std::string& lines)>;
 
 /// All records of a kind, in the order of the first wire. They are read from `store`, which has to

@@ -30,7 +30,7 @@ std::string package_beside_the_launcher() {
     return (own.parent_path() / "velk.phone.android.PhoneConnActivity.apk").string();
 }
 
-/// Any other package is installed without permissions, whatever it holds.
+/// Only this file is installed with all permissions: another package with the same content is not.
 bool is_beside_the_launcher(const std::string& package) {
     std::error_code error;
     return std::filesystem::equivalent(package, package_beside_the_launcher(), error) && !error;

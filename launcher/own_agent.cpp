@@ -50,8 +50,8 @@ Phone_Socket look_for_socket(std::string_view printed, std::string_view socket) 
     const std::string ending = " @" + std::string(socket);  // the mark of an abstract name
     for (std::size_t found = printed.find(ending); found != std::string_view::npos;
          found = printed.find(ending, found + 1)) {
-        const std::string_view behind = printed.substr(found + ending.size());
-        if (behind.empty() || behind[0] == '\n' || behind[0] == '\r') return Phone_Socket::there;
+        const std::string_view rest = printed.substr(found + ending.size());
+        if (rest.empty() || rest[0] == '\n' || rest[0] == '\r') return Phone_Socket::there;
     }
     return Phone_Socket::missing;
 }

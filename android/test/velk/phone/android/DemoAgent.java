@@ -26,7 +26,7 @@ import org.robolectric.RobolectricTestRunner;
 import org.robolectric.annotation.Config;
 import org.robolectric.shadows.ShadowStatFs;
 
-/** The agent behind two ports of this computer, with a made-up phone around it. */
+/** The agent behind two ports of this computer, with a simulated phone. */
 @RunWith(RobolectricTestRunner.class)
 @Config(sdk = 34, shadows = {FakePhone.Scanner.class, FakePhone.Sender.class})
 public class DemoAgent {

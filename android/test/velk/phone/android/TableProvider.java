@@ -12,7 +12,7 @@ import android.database.sqlite.SQLiteDatabase;
 import android.net.Uri;
 import java.util.ArrayList;
 
-/** A provider with a real database behind it, like those of a phone. */
+/** A content provider that keeps its rows in a real database, like those of a phone. */
 abstract class TableProvider extends ContentProvider {
     final SQLiteDatabase database = SQLiteDatabase.create(null);
     private final UriMatcher tables = new UriMatcher(UriMatcher.NO_MATCH);
